@@ -1,0 +1,9 @@
+#include "programstate.h"
+
+namespace {
+ProgramState state;
+}
+
+ProgramState& Program() { return state; }
+
+void ResetProgramState() { state = ProgramState{}; }
