@@ -20,6 +20,7 @@ public:
     void StepBack() { --position_; }
     // Ends the reading of the file: every later read gives zero.
     void Close() { closed_ = true; }
+    bool IsClosed() const { return closed_; }
 
 private:
     const std::vector<uint8_t>& bytes_;

@@ -100,10 +100,45 @@ void NoteHardpoint(FileRecord& record, const Piggyback& entry) {
         record.HP[1 + (code - std::begin(kHardpointCodes))] = record.Nodes[node];
 }
 
+void SetNumber(Piggyback& entry, int element, int position) {
+    // A Number beyond 16 bits cannot be given; the entry keeps 0 then.
+    const int number = element * 100 + position;
+    if (number <= std::numeric_limits<int16_t>::max())
+        entry.Number = static_cast<int16_t>(number);
+}
+
+// Once the file is closed nothing more can be read, and every entry of a later element is the
+// blank entry that reading zeros gives: the list is made at once.
+void FillWithBlanks(ElementList& list, int element, int64_t entries) {
+    static const Piggyback blank = [] {
+        const std::vector<uint8_t> nothing;
+        MoxInput closed(nothing);
+        Piggyback entry;
+        READ_ELEMENT_MOX(closed, entry);
+        return entry;
+    }();
+    list.Items.reserve(static_cast<size_t>(entries) + 1);
+    for (int j = 0; j < entries; ++j) {
+        list.Items.push_back(blank);
+        SetNumber(list.Items.back(), element, j);
+    }
+    list.Items.emplace_back();
+    list.Count = static_cast<int16_t>(entries);
+}
+
 void ReadElements(MoxInput& file, FileRecord& record) {
     int64_t entriesHeld = 0;
     for (int i = 0; i < record.NumElements; ++i) {
         ElementList& list = record.Elements[i];
+        if (file.IsClosed()) {
+            // As many entries as reading on would give before a limit is reached.
+            const int64_t entries =
+                std::clamp<int64_t>(kMaxEntriesPerRecord - entriesHeld, 1, kMaxPiggybacks + 1);
+            FillWithBlanks(list, i, entries);
+            entriesHeld += entries;
+            ShowMessage(kTooManyEntries + std::to_string(i));
+            continue;
+        }
         file.Seek(record.Offsets[i]);
         bool ended = false;
         for (int j = 0; !ended; ++j) {
@@ -112,10 +147,7 @@ void ReadElements(MoxInput& file, FileRecord& record) {
             Piggyback& entry = list.Items[j];
             READ_ELEMENT_MOX(file, entry);
             ++entriesHeld;
-            // A Number beyond 16 bits cannot be given; the entry keeps 0 then.
-            const int number = i * 100 + j;
-            if (number <= std::numeric_limits<int16_t>::max())
-                entry.Number = static_cast<int16_t>(number);
+            SetNumber(entry, i, j);
             if (entry.Type == kTypeHardpoint)
                 NoteHardpoint(record, entry);
             ended = entry.NextByte == kTypeNull;

@@ -6,6 +6,7 @@
 #include "recordinghost.h"
 #include "recordingtextureloader.h"
 #include "tempdir.h"
+#include "texturepath.h"
 
 #include <gtest/gtest.h>
 
@@ -316,6 +317,21 @@ TEST(MoxReader, FindsTheTextureInTheModelsFolderWhateverItsCase) {
     EXPECT_EQ(host.messages,
               (std::vector<std::string>{"Cannot load texture. Must be a PCX file!"}));
     EXPECT_TRUE(refused.Loaded);
+}
+
+TEST(MoxReader, TheTextureNameIsUpperCasedAndEndsAtItsFiller) {
+    const auto name = [](const std::string& stored) {
+        TextureName texture{};
+        std::copy(stored.begin(), stored.end(), texture.begin());
+        return TextureFileName(texture);
+    };
+    EXPECT_EQ(name("plane.tpc"), "PLANE.PCX");
+    EXPECT_EQ(name("a.tpc.tpc   "), "A.PCX.PCX");
+    EXPECT_EQ(name(std::string("wing.pcx\0junk", 13)), "WING.PCX");
+    EXPECT_EQ(name("caf\xE9.tpc"), "CAF\xC3\xA9.PCX") << "Latin-1 in, UTF-8 out";
+    EXPECT_EQ(name("              "), "");
+    EXPECT_EQ(TexturePath("C:\\m\\plane.mox", TextureName{'t', '.', 't', 'p', 'c'}), "C:\\m\\T.PCX")
+        << "the folder is kept as written";
 }
 
 TEST(MoxReader, WithoutATextureHookLoadsNoTexture) {
