@@ -1,5 +1,6 @@
 #include "moxwriter.h"
 
+#include "arrayentry.h"
 #include "elementkind.h"
 #include "filereplace.h"
 #include "modelhost.h"
@@ -11,13 +12,6 @@ namespace {
 constexpr const char* kSaveError = "Error in Save...";
 // What an element that the record lacks is written as: the stream FF.
 const ElementList kNoEntries;
-
-// Entry k of an array, or a zero entry where the record holds fewer entries than its counts
-// say: the file then still agrees with its own counts.
-template <typename T> T EntryOr(const std::vector<T>& entries, int k) {
-    return k >= 0 && static_cast<size_t>(k) < entries.size() ? entries[static_cast<size_t>(k)]
-                                                             : T{};
-}
 
 void WriteEntry(MoxOutput& file, const Piggyback& item, int32_t& n) {
     if (item.COD != 0) {

@@ -6,17 +6,16 @@
 
 namespace {
 
+constexpr const char* kDescription =
+    "Writes the model file that the JSON form describes (the form "
+    "`moxtool dump --json` prints, docs/moxtool.md).\nA bad value is named by "
+    "its JSON path and nothing is written.";
 constexpr const char* kUsage = "moxtool build IN.json OUT.mox";
 
 int RunBuild(const Arguments& args) {
-    if (HelpRequested(args)) {
-        std::cout << "usage: " << kUsage
-                  << "\n\nWrites the model file that the JSON form describes (the form "
-                     "`moxtool dump --json` prints, docs/moxtool.md).\nA bad value is named by "
-                     "its JSON path and nothing is written.\n";
+    if (ShowHelp(args, kUsage, kDescription))
         return kExitOk;
-    }
-    if (args.size() != 2 || args[0].rfind("-", 0) == 0 || args[1].rfind("-", 0) == 0)
+    if (args.size() != 2 || !NoOptions(args))
         return UsageError(kUsage);
 
     std::string text;

@@ -26,12 +26,22 @@ std::string InputProblem(const std::string& path) {
 
 } // namespace
 
-bool HelpRequested(const Arguments& args) {
+bool ShowHelp(const Arguments& args, const char* usage, const char* description) {
     for (const std::string& word : args) {
-        if (word == "--help" || word == "-h")
+        if (word == "--help" || word == "-h") {
+            std::cout << "usage: " << usage << "\n\n" << description << "\n";
             return true;
+        }
     }
     return false;
+}
+
+bool NoOptions(const Arguments& args) {
+    for (const std::string& word : args) {
+        if (word.rfind("-", 0) == 0)
+            return false;
+    }
+    return true;
 }
 
 void PrintError(const std::string& text) {

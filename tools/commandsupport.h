@@ -8,8 +8,12 @@
 #include <string>
 #include <vector>
 
-// True when the words ask for the command's help.
-bool HelpRequested(const Arguments& args);
+// When the words ask for the command's help, prints its usage and `description` on stdout and
+// returns true.
+bool ShowHelp(const Arguments& args, const char* usage, const char* description);
+
+// True when the words hold nothing that looks like an option ("-x", "--x").
+bool NoOptions(const Arguments& args);
 
 // Prints "moxtool: TEXT" on stderr.
 void PrintError(const std::string& text);

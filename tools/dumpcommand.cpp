@@ -6,6 +6,10 @@
 
 namespace {
 
+constexpr const char* kDescription =
+    "Shows every field of a model file as the editor reads it, and the "
+    "messages reading it shows.\n  --json  the JSON form that `moxtool build` "
+    "reads (docs/moxtool.md)";
 constexpr const char* kUsage = "moxtool dump [--json] FILE.mox";
 
 // One value on one line: scalars as JSON, lists of scalars separated by blanks, objects as
@@ -72,13 +76,8 @@ void PrintText(std::ostream& out, const Json& json) {
 }
 
 int RunDump(const Arguments& args) {
-    if (HelpRequested(args)) {
-        std::cout << "usage: " << kUsage
-                  << "\n\nShows every field of a model file as the editor reads it, and the "
-                     "messages reading it shows.\n  --json  the JSON form that `moxtool build` "
-                     "reads (docs/moxtool.md)\n";
+    if (ShowHelp(args, kUsage, kDescription))
         return kExitOk;
-    }
     bool asJson = false;
     std::string file;
     for (const std::string& word : args) {

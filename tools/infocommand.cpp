@@ -9,6 +9,9 @@
 
 namespace {
 
+constexpr const char* kDescription =
+    "One summary per model file: radius, texture, counts, the hardpoints "
+    "found and the messages of the read.";
 constexpr const char* kUsage = "moxtool info FILE.mox...";
 
 // The hardpoint codes of slots 1 to 6.
@@ -55,15 +58,9 @@ std::string Hardpoints(const FileRecord& record) {
 }
 
 int RunInfo(const Arguments& args) {
-    if (HelpRequested(args)) {
-        std::cout << "usage: " << kUsage
-                  << "\n\nOne summary per model file: radius, texture, counts, the hardpoints "
-                     "found and the messages of the read.\n";
+    if (ShowHelp(args, kUsage, kDescription))
         return kExitOk;
-    }
-    if (args.empty() || std::any_of(args.begin(), args.end(), [](const std::string& word) {
-            return word.rfind("-", 0) == 0;
-        }))
+    if (args.empty() || !NoOptions(args))
         return UsageError(kUsage);
 
     int status = kExitOk;

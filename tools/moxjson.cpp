@@ -1,5 +1,6 @@
 #include "moxjson.h"
 
+#include "arrayentry.h"
 #include "elementkind.h"
 #include "latin1text.h"
 
@@ -8,12 +9,6 @@
 #include <limits>
 
 namespace {
-
-// Entry k of an array, or 0 where a record holds fewer entries than its counts say.
-template <typename T> T EntryOr(const std::vector<T>& entries, int k) {
-    return k >= 0 && static_cast<size_t>(k) < entries.size() ? entries[static_cast<size_t>(k)]
-                                                             : T{};
-}
 
 // How many node numbers an entry lists: CRN, or the corner count its kind fixes.
 int CornerCount(uint8_t type, int crn) {

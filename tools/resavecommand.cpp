@@ -5,17 +5,16 @@
 
 namespace {
 
+constexpr const char* kDescription =
+    "Reads a model file and writes it as the editor's save would: a fresh "
+    "offset table and\nthe streams packed in element order. Messages of the "
+    "read are shown on stderr.";
 constexpr const char* kUsage = "moxtool resave IN.mox OUT.mox";
 
 int RunResave(const Arguments& args) {
-    if (HelpRequested(args)) {
-        std::cout << "usage: " << kUsage
-                  << "\n\nReads a model file and writes it as the editor's save would: a fresh "
-                     "offset table and\nthe streams packed in element order. Messages of the "
-                     "read are shown on stderr.\n";
+    if (ShowHelp(args, kUsage, kDescription))
         return kExitOk;
-    }
-    if (args.size() != 2 || args[0].rfind("-", 0) == 0 || args[1].rfind("-", 0) == 0)
+    if (args.size() != 2 || !NoOptions(args))
         return UsageError(kUsage);
 
     FileRecord record;

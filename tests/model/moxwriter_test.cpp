@@ -15,13 +15,6 @@
 
 namespace {
 
-std::vector<uint8_t> Saved(const FileRecord& record) {
-    std::vector<uint8_t> bytes;
-    std::string problem;
-    EXPECT_TRUE(BuildMoxBytes(record, bytes, problem)) << problem;
-    return bytes;
-}
-
 FileRecord ReadBack(const std::vector<uint8_t>& bytes) {
     return ReadMoxBytes(bytes, "A.MOX", 0);
 }
@@ -65,14 +58,14 @@ TEST(MoxWriter, WritesTheTablesThenTheStreamsBackToBack) {
         StreamBytes().Line(0, 1, 7).Hardpoint(25, 1).End().bytes,
     };
     const std::vector<uint8_t> original = builder.Build();
-    const std::vector<uint8_t> saved = Saved(ReadBack(original));
+    const std::vector<uint8_t> saved = SavedBytes(ReadBack(original));
 
     std::vector<uint8_t> expected = original;
     expected.push_back(0x00);
     EXPECT_EQ(saved, expected) << "only the trailing 00 is added";
 
     builder.trailer = {0x00};
-    EXPECT_EQ(Saved(ReadBack(builder.Build())), builder.Build());
+    EXPECT_EQ(SavedBytes(ReadBack(builder.Build())), builder.Build());
 }
 
 TEST(MoxWriter, RepacksStreamsInElementOrder) {
@@ -87,7 +80,7 @@ TEST(MoxWriter, RepacksStreamsInElementOrder) {
     builder.gapBefore = 5;
     builder.trailer = {1, 2, 3};
     const FileRecord record = ReadBack(builder.Build());
-    const std::vector<uint8_t> saved = Saved(record);
+    const std::vector<uint8_t> saved = SavedBytes(record);
 
     const size_t table = 22 + 3 * 12 + 2 + 3 * 2 + 2 * 8;
     const FileRecord again = ReadBack(saved);
@@ -119,7 +112,7 @@ TEST(MoxWriter, LeavesOutWhatTheReaderAddedForItself) {
     list.Items[1].Att2 = 5;
     record.Elements[1].Count = 0;
 
-    const FileRecord again = ReadBack(Saved(record));
+    const FileRecord again = ReadBack(SavedBytes(record));
     ASSERT_EQ(again.Elements[0].Count, 1);
     const Piggyback& item = again.Elements[0].Items[0];
     EXPECT_EQ(item.Type, 0);
@@ -134,18 +127,18 @@ TEST(MoxWriter, LeavesOutWhatTheReaderAddedForItself) {
     // Behind a display code any Type value reads back as it was.
     list.Items[1].COD = 150;
     list.Items[1].Type = 77;
-    EXPECT_EQ(ReadBack(Saved(record)).Elements[0].Items[0].Type, 77);
-    EXPECT_EQ(ReadBack(Saved(record)).Elements[0].Items[0].Flag, 3);
+    EXPECT_EQ(ReadBack(SavedBytes(record)).Elements[0].Items[0].Type, 77);
+    EXPECT_EQ(ReadBack(SavedBytes(record)).Elements[0].Items[0].Flag, 3);
 
     list.Items[1].Type = kTypeNull;
-    EXPECT_EQ(ReadBack(Saved(record)).Elements[0].Items[0].Type, kTypeNull);
+    EXPECT_EQ(ReadBack(SavedBytes(record)).Elements[0].Items[0].Type, kTypeNull);
 }
 
 TEST(MoxWriter, ARecordWithoutElementsEndsWithItsNodes) {
     MoxBuilder builder;
     builder.nodes = {Node{1, 2, 3, 4}};
     const std::vector<uint8_t> bytes = builder.Build();
-    EXPECT_EQ(Saved(ReadBack(bytes)), bytes);
+    EXPECT_EQ(SavedBytes(ReadBack(bytes)), bytes);
 }
 
 TEST(MoxWriter, CountsThatOutrunTheArraysAreFilledWithZeros) {
@@ -162,7 +155,7 @@ TEST(MoxWriter, CountsThatOutrunTheArraysAreFilledWithZeros) {
     record.Elements[0].Items = {item};
     record.Elements[0].Count = 9;
 
-    const FileRecord again = ReadBack(Saved(record));
+    const FileRecord again = ReadBack(SavedBytes(record));
     EXPECT_EQ(again.NumParts, 3);
     EXPECT_EQ(again.Parts[1].X, 0);
     EXPECT_EQ(again.Nodes[0].X, 5);

@@ -1,5 +1,7 @@
 #include "moxbuilder.h"
 
+#include "moxwriter.h"
+
 #include <algorithm>
 #include <fstream>
 #include <iterator>
@@ -129,6 +131,14 @@ std::vector<uint8_t> MoxBuilder::Build() const {
         out[table + 2 * static_cast<size_t>(i) + 1] = static_cast<uint8_t>((offset >> 8) & 0xFF);
     }
     return out;
+}
+
+std::vector<uint8_t> SavedBytes(const FileRecord& record) {
+    std::vector<uint8_t> bytes;
+    std::string problem;
+    if (!BuildMoxBytes(record, bytes, problem))
+        throw std::runtime_error("the save refuses the record: " + problem);
+    return bytes;
 }
 
 void WriteFileBytes(const std::string& path, const std::vector<uint8_t>& bytes) {

@@ -63,6 +63,10 @@ public:
     std::vector<uint8_t> Build() const;
 };
 
+// The bytes SAVE_MOX writes for `record`; throws when the save refuses the record, which fails
+// the calling test.
+std::vector<uint8_t> SavedBytes(const FileRecord& record);
+
 // Writes `bytes` to `path`; throws when it cannot, which fails the calling test.
 void WriteFileBytes(const std::string& path, const std::vector<uint8_t>& bytes);
 std::vector<uint8_t> ReadFileBytes(const std::string& path);

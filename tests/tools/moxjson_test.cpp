@@ -13,13 +13,6 @@
 
 namespace {
 
-std::vector<uint8_t> Saved(const FileRecord& record) {
-    std::vector<uint8_t> bytes;
-    std::string problem;
-    EXPECT_TRUE(BuildMoxBytes(record, bytes, problem)) << problem;
-    return bytes;
-}
-
 MoxBuilder SmallModel() {
     MoxBuilder builder;
     builder.texture = {'p', 0xE9, '.', 't', 'p', 'c', 0, 0, 0, 0, 0, ' ', ' ', 0};
@@ -84,7 +77,7 @@ TEST(MoxJson, BuildWritesWhatResaveWrites) {
         FileRecord built;
         std::string error;
         ASSERT_TRUE(MoxFromJson(Json::parse(text), built, error)) << error;
-        ASSERT_EQ(Saved(built), Saved(record)) << "file " << file;
+        ASSERT_EQ(SavedBytes(built), SavedBytes(record)) << "file " << file;
     }
 
     // A damaged file too: its blank entries and messages survive the trip.
@@ -100,7 +93,7 @@ TEST(MoxJson, BuildWritesWhatResaveWrites) {
     std::string error;
     ASSERT_TRUE(MoxFromJson(json, built, error)) << error;
     EXPECT_EQ(built.Elements[1].Count, 256);
-    EXPECT_EQ(Saved(built), Saved(record));
+    EXPECT_EQ(SavedBytes(built), SavedBytes(record));
 }
 
 TEST(MoxJson, RefusesABadValueNamingItsPath) {
@@ -175,5 +168,5 @@ TEST(MoxJson, RefusesABadValueNamingItsPath) {
     std::string error;
     ASSERT_TRUE(MoxFromJson(json, record, error)) << error;
     EXPECT_EQ(record.NumParts, -4);
-    EXPECT_EQ(ReadMoxBytes(Saved(record), "S.MOX", 0).NumParts, -4);
+    EXPECT_EQ(ReadMoxBytes(SavedBytes(record), "S.MOX", 0).NumParts, -4);
 }
