@@ -48,7 +48,8 @@ public:
     virtual void SetHelpCaption([[maybe_unused]] const std::string& caption) {}
     virtual bool HelpBold() { return false; }
     virtual void SetHelpBold([[maybe_unused]] bool bold) {}
-    // Lets pending window events run, so that the window repaints during a long load.
+    // Lets pending window events run, so that the window repaints during a long load. The user's
+    // input stays queued: a menu must not replace the model while it is being loaded.
     virtual void LetEventsRun() {}
 };
 

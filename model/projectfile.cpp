@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <cctype>
-#include <filesystem>
-#include <fstream>
 #include <limits>
 
 namespace {
@@ -105,27 +103,4 @@ std::string ProjectFileText(const ProjectRecord& project, bool hFamily) {
     AddLine(text, "Front=" + project.Front);
     AddLine(text, "Notes=" + project.Notes);
     return text;
-}
-
-bool WriteFileReplacing(const std::string& path, const std::string& text) {
-    const std::filesystem::path target(path);
-    std::filesystem::path temporary = target;
-    temporary += ".skylathe-new";
-    {
-        std::ofstream out(temporary, std::ios::binary | std::ios::trunc);
-        out.write(text.data(), static_cast<std::streamsize>(text.size()));
-        out.close();
-        if (!out) {
-            std::error_code ignored;
-            std::filesystem::remove(temporary, ignored);
-            return false;
-        }
-    }
-    std::error_code error;
-    std::filesystem::rename(temporary, target, error);
-    if (error) {
-        std::filesystem::remove(temporary, error);
-        return false;
-    }
-    return true;
 }

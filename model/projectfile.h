@@ -32,7 +32,3 @@ bool ParseProjectNumber(const std::string& value, int16_t& number);
 // The whole text of a project as it is written; `hFamily` chooses "Type=MOX TMOD" over
 // "Type=MOX". Paths are written as they stand in `project`.
 std::string ProjectFileText(const ProjectRecord& project, bool hFamily);
-
-// Writes `text` to `path` through a temporary file in the same folder and a rename, so that a
-// failed write leaves what was there before. Returns false when the file could not be written.
-bool WriteFileReplacing(const std::string& path, const std::string& text);
