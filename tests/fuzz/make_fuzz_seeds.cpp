@@ -1,4 +1,6 @@
 // Writes the starting corpus of every fuzz target: make_fuzz_seeds DIR writes DIR/fuzz_NAME/*.
+#include "projectseeds.h"
+
 #include <filesystem>
 #include <iostream>
 
@@ -8,5 +10,6 @@ int main(int argc, char** argv) {
         return 2;
     }
     std::filesystem::create_directories(argv[1]);
+    WriteProjectSeeds(argv[1]);
     return 0;
 }
