@@ -20,8 +20,11 @@ bool WriteAll(int fd, const char* data, size_t size) {
         const ssize_t written = write(fd, data, size);
         if (written < 0 && errno == EINTR)
             continue;
-        if (written <= 0)
+        if (written <= 0) {
+            if (written == 0)
+                errno = EIO;
             return false;
+        }
         data += written;
         size -= static_cast<size_t>(written);
     }
