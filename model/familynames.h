@@ -12,6 +12,9 @@ enum class FileKind { Mox, Moy, ThreeDS, Other };
 
 enum class Family { None, H, F };
 
+// What opening the main file of a family asks.
+inline constexpr const char* kConnectedFilesQuestion = "Load this model AND connected models?";
+
 // A connected file: its slot in Files and the ending that replaces the main file's letter and
 // extension ("L.MOX").
 struct ConnectedFile {

@@ -14,7 +14,6 @@
 
 namespace {
 
-constexpr const char* kConnectedQuestion = "Load this model AND connected models?";
 constexpr const char* kTitle = "Skylathe";
 constexpr const char* kTitlePrefix = "Skylathe - ";
 constexpr const char* kSaveOneCommand = "ONE";
@@ -101,8 +100,8 @@ bool model::Load(std::string& Filename) {
         // Only the main letter brings the family: any other file of it loads alone as slot 0.
         const char main = MainLetter(family);
         if (FamilyLetter(Filename) == main &&
-            Host().ShowMessage(kConnectedQuestion, MessageButtons::YesNo, MessageIcon::Question,
-                               kTitle) == MessageAnswer::Yes) {
+            Host().ShowMessage(kConnectedFilesQuestion, MessageButtons::YesNo,
+                               MessageIcon::Question, kTitle) == MessageAnswer::Yes) {
             const std::string stem = FamilyStem(Filename);
             for (const ConnectedFile& connected : ConnectedFiles(family))
                 ReadSlot(stem + connected.ending, connected.slot);

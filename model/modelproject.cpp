@@ -15,8 +15,6 @@
 
 namespace {
 
-constexpr const char* kProjectNotFound = "Could not find project file";
-constexpr const char* kProjectError = "Error in Project File";
 constexpr const char* kNotAPicture = "Cannot load 3-View. Must be a PCX file!";
 constexpr const char* kNoModelForProject =
     "No model is open, so there is no project to save. Load a model or a project first.";

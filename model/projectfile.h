@@ -11,6 +11,9 @@
 
 inline constexpr const char* kProjectLineEnd = "\r\n";
 inline constexpr const char* kNoPath = "NONE";
+// The messages of a project load that failed.
+inline constexpr const char* kProjectNotFound = "Could not find project file";
+inline constexpr const char* kProjectError = "Error in Project File";
 
 struct ProjectLine {
     std::string key; // in upper case
