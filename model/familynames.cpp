@@ -7,10 +7,9 @@
 
 namespace {
 
-constexpr std::size_t kExtensionLength = 4;          // ".MOX", with its dot
-constexpr std::size_t kLetterAndExtensionLength = 5; // "F.MOX"
-constexpr std::size_t kNumberLength = 3;             // the "001" of "_001"
-constexpr int kMaxRecentEntry = 3;                   // entries 0 to 3 are in use
+constexpr std::size_t kExtensionLength = 4; // ".MOX", with its dot
+constexpr std::size_t kNumberLength = 3;    // the "001" of "_001"
+constexpr int kMaxRecentEntry = 3;          // entries 0 to 3 are in use
 
 std::string UpperCase(std::string text) {
     std::transform(text.begin(), text.end(), text.begin(),

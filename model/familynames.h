@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -11,6 +12,9 @@
 enum class FileKind { Mox, Moy, ThreeDS, Other };
 
 enum class Family { None, H, F };
+
+// The family letter and the extension behind it: "F.MOX".
+inline constexpr std::size_t kLetterAndExtensionLength = 5;
 
 // What opening the main file of a family asks.
 inline constexpr const char* kConnectedFilesQuestion = "Load this model AND connected models?";

@@ -23,7 +23,6 @@ constexpr const char* kNothingToSaveMessage =
 constexpr const char* kMainEnding = ".MOX";
 constexpr int kLastFamilySlot = 6;
 constexpr int32_t kModifyAxisX = 30000;
-constexpr std::size_t kLetterAndExtensionLength = 5;
 
 bool SameIgnoringCase(const std::string& a, const std::string& b) {
     return a.size() == b.size() &&
@@ -57,7 +56,9 @@ std::string OnDiskName(const std::string& filename) {
             (found.empty() || name < found))
             found = name;
     }
-    return found.empty() ? filename : (folder / found).string();
+    if (found.empty())
+        return filename;
+    return wanted.has_parent_path() ? (folder / found).string() : found;
 }
 
 std::string NextSaveName(const std::string& filename) {
