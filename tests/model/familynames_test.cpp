@@ -39,25 +39,6 @@ TEST(FamilyNames, FamiliesAreToldByFirstLetterAndLetterBeforeTheExtension) {
     EXPECT_EQ(BareFileName("PLANEF.MOX"), "PLANEF.MOX");
 }
 
-TEST(FamilyNames, KindsAndSlots) {
-    EXPECT_EQ(FileKindOf("a.mox"), FileKind::Mox);
-    EXPECT_EQ(FileKindOf("a.Moy"), FileKind::Moy);
-    EXPECT_EQ(FileKindOf("a.3ds"), FileKind::ThreeDS);
-    EXPECT_EQ(FileKindOf("a.pcx"), FileKind::Other);
-    EXPECT_EQ(FileKindOf("x"), FileKind::Other);
-
-    std::string order;
-    for (const ConnectedFile& file : ConnectedFiles(Family::H))
-        order += std::to_string(file.slot) + file.ending + " ";
-    EXPECT_EQ(order, "2L.MOX 3D.MOX 1S.MOX ");
-    order.clear();
-    for (const ConnectedFile& file : ConnectedFiles(Family::F))
-        order += std::to_string(file.slot) + file.ending[0];
-    EXPECT_EQ(order, "1A2B3C4E5G6P");
-    EXPECT_EQ(FamilyListRows(Family::H).size(), 4u);
-    EXPECT_EQ(FamilyListRows(Family::F).at(6), "P.MOX");
-}
-
 TEST(FamilyNames, RecentListLooksAtItsTopEntryOnly) {
     std::array<std::string, 5> list{"a", "b", "c", "d", "NONE"};
     EXPECT_FALSE(PushRecent(list, "a", "x"));
