@@ -6,6 +6,7 @@ const std::vector<ToolCommand>& ToolCommands() {
         BuildCommand(),
         ResaveCommand(),
         InfoCommand(),
+        ProjectCommand(),
     };
     return commands;
 }

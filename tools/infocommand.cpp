@@ -1,6 +1,7 @@
 // moxtool info: one short summary per model file.
 #include "commandsupport.h"
 #include "elementkind.h"
+#include "familymeasures.h"
 #include "latin1text.h"
 #include "moxjson.h"
 
@@ -10,8 +11,9 @@
 namespace {
 
 constexpr const char* kDescription =
-    "One summary per model file: radius, texture, counts, the hardpoints "
-    "found and the messages of the read.";
+    "One summary per model file: radius, texture, counts, the hardpoints found and the messages "
+    "of the read. The main file of a family is loaded with its connected files, and the "
+    "measures of the assembled model follow.";
 constexpr const char* kUsage = "moxtool info FILE.mox...";
 
 // The hardpoint codes of slots 1 to 6.
@@ -80,6 +82,8 @@ int RunInfo(const Arguments& args) {
                   << "  hardpoints: " << Hardpoints(record) << "\n";
         for (const std::string& message : messages)
             std::cout << "  message: " << message << "\n";
+        if (IsFamilyMainFile(file))
+            PrintFamilyMeasures(file, std::cout);
     }
     return status;
 }

@@ -2,6 +2,7 @@
 #include "moxjson.h"
 #include "moxreader.h"
 #include "randommox.h"
+#include "projectseeds.h"
 
 #include <filesystem>
 #include <fstream>
@@ -34,5 +35,6 @@ int main(int argc, char** argv) {
         const FileRecord record = ReadMoxBytes(bytes, "SEED.MOX", 0);
         WriteSeed(root / "fuzz_moxjson", seed, MoxToJson(record, {}).dump());
     }
+    WriteProjectSeeds(argv[1]);
     return 0;
 }
