@@ -103,9 +103,24 @@ PcxResult ReadPaletteImage(const uint8_t* bytes, std::size_t size, const PcxHead
 
     const DataStream data(bytes, size);
     std::size_t in = 0;
+    // Past the end of the data every byte reads as index 0, so the rows that start there are
+    // all alike: the first is decoded, the others copied from it.
+    const uint8_t* blankRow = nullptr;
     for (int y = 0; y < height; ++y) {
+        uint8_t* out = picture.rgb.data() + picture.RowBytes() * static_cast<std::size_t>(y);
+        if (in >= data.Size()) {
+            if (blankRow != nullptr) {
+                std::memcpy(out, blankRow, picture.RowBytes());
+                continue;
+            }
+            blankRow = out;
+        }
         int x = 0;
         while (x < rowSize) {
+            if (in >= data.Size()) {
+                std::fill(row.begin() + x, row.end(), uint8_t{0});
+                break;
+            }
             const uint8_t b = data.At(in);
             if (IsRun(b)) {
                 int length = b & kRunLengthMask;
@@ -122,7 +137,6 @@ PcxResult ReadPaletteImage(const uint8_t* bytes, std::size_t size, const PcxHead
                 ++in;
             }
         }
-        uint8_t* out = picture.rgb.data() + picture.RowBytes() * static_cast<std::size_t>(y);
         for (const uint8_t index : row) {
             std::memcpy(out, palette + index * kRgbBytes, kRgbBytes);
             out += kRgbBytes;
@@ -171,8 +185,12 @@ PcxResult ReadTrueColourImage(const uint8_t* bytes, std::size_t size, const PcxH
     auto planeByte = [&planes](std::size_t index) {
         return index < planes.size() ? planes[index] : uint8_t{0};
     };
+    // A line that starts where the data did not reach reads only zeros: it stays black, as the
+    // picture already is.
+    const std::size_t filledLines =
+        std::min<std::size_t>(static_cast<std::size_t>(height), (out + line - 1) / line);
     uint8_t* pixel = picture.rgb.data();
-    for (std::size_t y = 0; y < static_cast<std::size_t>(height); ++y) {
+    for (std::size_t y = 0; y < filledLines; ++y) {
         const std::size_t start = line * y;
         for (std::size_t x = 0; x < static_cast<std::size_t>(width); ++x) {
             *pixel++ = planeByte(start + x);

@@ -265,7 +265,19 @@ TEST(PcxReader, SurvivesShortAndLyingFiles) {
     ASSERT_EQ(tallPicture.height, 20);
     EXPECT_EQ(Bytes(tallPicture.rgb.begin(), tallPicture.rgb.begin() + 21 * 3 * 9),
               TestRgb(21, 9, 2));
-    EXPECT_EQ(tallPicture.rgb.back(), 0);
+    EXPECT_TRUE(std::all_of(tallPicture.rgb.end() - 21 * 3 * 5, tallPicture.rgb.end(),
+                            [](uint8_t byte) { return byte == 0; }));
+    // In a 256-colour file the palette block is read as pixels first (its bytes of 0xC0 and
+    // above as runs), then zeros: index 0.
+    Bytes tall8 = palette8;
+    PutInt16(tall8, kYMaxAt, 2999);
+    const PcxImage tall8Picture = Picture(tall8);
+    ASSERT_EQ(tall8Picture.height, 3000);
+    const Bytes rows = Columns(tall8Picture, 21);
+    EXPECT_EQ(Bytes(rows.begin(), rows.begin() + 21 * 3 * 9),
+              PaletteColours(TestIndices(21, 9, 2), TestPalette()));
+    const Bytes blank = PaletteColours(Bytes(22 * 1000, 0), TestPalette());
+    EXPECT_TRUE(std::equal(blank.begin(), blank.end(), tall8Picture.rgb.end() - 22 * 3 * 1000));
 
     // Widths wider than the bytes per line read on into the next plane row, or are cut.
     Bytes wide = trueColour;
