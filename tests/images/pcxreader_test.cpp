@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <iterator>
 
 namespace {
 
@@ -43,6 +44,13 @@ void PutInt16(Bytes& bytes, std::size_t at, int value) {
     bytes[at + 1] = static_cast<uint8_t>((value >> 8) & 0xFF);
 }
 
+Bytes Joined(std::initializer_list<Bytes> parts) {
+    Bytes joined;
+    for (const Bytes& part : parts)
+        std::copy(part.begin(), part.end(), std::back_inserter(joined));
+    return joined;
+}
+
 // The first `width` columns of the picture.
 Bytes Columns(const PcxImage& picture, int width) {
     Bytes rgb;
@@ -59,11 +67,9 @@ Bytes PaletteFile(int width, int height, int bytesPerLine, const Bytes& data) {
     options.bytesPerLine = bytesPerLine;
     const Bytes written = EncodePcx8(
         width, height, Bytes(static_cast<std::size_t>(width * height), 0), TestPalette(), options);
-    Bytes file(written.begin(), written.begin() + kPcxHeaderBytes);
-    PutInt16(file, kBytesPerLineAt, bytesPerLine);
-    file.insert(file.end(), data.begin(), data.end());
-    file.insert(file.end(), written.end() - kPcxPaletteBlockBytes, written.end());
-    return file;
+    Bytes header(written.begin(), written.begin() + kPcxHeaderBytes);
+    PutInt16(header, kBytesPerLineAt, bytesPerLine);
+    return Joined({header, data, Bytes(written.end() - kPcxPaletteBlockBytes, written.end())});
 }
 
 PcxImage Picture(const Bytes& file) {
@@ -177,8 +183,8 @@ TEST(PcxReader, TakesThePaletteFromTheEndOfTheFile) {
     EXPECT_EQ(Picture(spaced).rgb, Picture(file).rgb);
 
     // Pixel data that stops early is made up from what follows: the palette block, then zeros.
-    Bytes cut(file.begin(), file.begin() + kPcxHeaderBytes + 3);
-    cut.insert(cut.end(), file.end() - kPcxPaletteBlockBytes, file.end());
+    const Bytes cut = Joined({Bytes(file.begin(), file.begin() + kPcxHeaderBytes + 3),
+                              Bytes(file.end() - kPcxPaletteBlockBytes, file.end())});
     const PcxImage early = Picture(cut);
     EXPECT_EQ(early.width, 6);
     EXPECT_EQ(early.height, 4);
