@@ -69,13 +69,14 @@ PcxResult WithPicture(PcxImage picture) {
     return result;
 }
 
-bool FitsInMemory(uint64_t width, uint64_t height, uint64_t bytesPerPixel) {
-    return width * height * bytesPerPixel <= kMaxPcxPictureBytes;
+bool FitsInMemory(uint64_t width, uint64_t height, uint64_t bytesPerPixel, std::size_t limit) {
+    return width * height * bytesPerPixel <= limit;
 }
 
 // The 256-colour reader. The result is as wide as the row size, so a file whose bytes per line
 // exceeds its width shows the padding columns at the right.
-PcxResult ReadPaletteImage(const uint8_t* bytes, std::size_t size, const PcxHeader& header) {
+PcxResult ReadPaletteImage(const uint8_t* bytes, std::size_t size, const PcxHeader& header,
+                           std::size_t limit) {
     if (size < kPcxPaletteBlockBytes || bytes[size - kPcxPaletteBlockBytes] != kPcxPaletteMarker)
         return Refused(PcxOutcome::NoPalette,
                        "The PCX that was passed didn't have a 256 colour palette! Can't read it!",
@@ -87,7 +88,8 @@ PcxResult ReadPaletteImage(const uint8_t* bytes, std::size_t size, const PcxHead
     const int rowSize = kPalettePlanes * header.bytesPerLine;
     if (width <= 0 || height <= 0 || rowSize <= 0)
         return Refused(PcxOutcome::BadSize);
-    if (!FitsInMemory(static_cast<uint64_t>(rowSize), static_cast<uint64_t>(height), kRgbBytes))
+    if (!FitsInMemory(static_cast<uint64_t>(rowSize), static_cast<uint64_t>(height), kRgbBytes,
+                      limit))
         return Refused(PcxOutcome::TooLarge);
 
     // A run that would cross the end of a row is cut at the image width. Where the header's
@@ -147,15 +149,17 @@ PcxResult ReadPaletteImage(const uint8_t* bytes, std::size_t size, const PcxHead
 
 // The true-colour reader: one run-length stream for the whole image, so runs may cross the ends
 // of plane rows and of lines. Each line holds a red, a green and a blue plane row.
-PcxResult ReadTrueColourImage(const uint8_t* bytes, std::size_t size, const PcxHeader& header) {
+PcxResult ReadTrueColourImage(const uint8_t* bytes, std::size_t size, const PcxHeader& header,
+                              std::size_t limit) {
     const int width = header.Width();
     const int height = header.Height();
     const int bytesPerLine = header.bytesPerLine;
     if (width <= 0 || height <= 0 || bytesPerLine <= 0)
         return Refused(PcxOutcome::BadSize);
-    if (!FitsInMemory(static_cast<uint64_t>(width), static_cast<uint64_t>(height), kRgbBytes) ||
+    if (!FitsInMemory(static_cast<uint64_t>(width), static_cast<uint64_t>(height), kRgbBytes,
+                      limit) ||
         !FitsInMemory(static_cast<uint64_t>(bytesPerLine), static_cast<uint64_t>(height),
-                      kTrueColourPlanes))
+                      kTrueColourPlanes, limit))
         return Refused(PcxOutcome::TooLarge);
 
     const std::size_t plane = static_cast<std::size_t>(bytesPerLine);
@@ -215,16 +219,17 @@ PcxHeader ReadPcxHeader(const uint8_t* bytes, std::size_t size) {
     return header;
 }
 
-PcxResult DecodePcx(const uint8_t* bytes, std::size_t size, const std::string& path) {
+PcxResult DecodePcx(const uint8_t* bytes, std::size_t size, const std::string& path,
+                    std::size_t maxPictureBytes) {
     if (bytes == nullptr)
         size = 0;
     const PcxHeader header = ReadPcxHeader(bytes, size);
     if (header.bitsPerPixel != kSupportedBitsPerPixel)
         return Refused(PcxOutcome::WrongDepth, "Sorry, can't load " + path + "!");
     if (header.planes == kPalettePlanes)
-        return ReadPaletteImage(bytes, size, header);
+        return ReadPaletteImage(bytes, size, header, maxPictureBytes);
     if (header.planes == kTrueColourPlanes)
-        return ReadTrueColourImage(bytes, size, header);
+        return ReadTrueColourImage(bytes, size, header, maxPictureBytes);
     return Refused(PcxOutcome::UnsupportedPlanes);
 }
 

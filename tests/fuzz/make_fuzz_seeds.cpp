@@ -12,8 +12,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool WriteSeed(const fs::path& folder, const std::string& name,
-               const std::vector<uint8_t>& bytes) {
+bool WriteSeed(const fs::path& folder, const std::string& name, const std::vector<uint8_t>& bytes) {
     std::ofstream out(folder / name, std::ios::binary);
     out.write(reinterpret_cast<const char*>(bytes.data()),
               static_cast<std::streamsize>(bytes.size()));
