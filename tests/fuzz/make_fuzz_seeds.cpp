@@ -1,9 +1,9 @@
 // Writes the starting corpus of every fuzz target: make_fuzz_seeds DIR writes DIR/fuzz_NAME/*.
+#include "bytefile.h"
 #include "pcxwriter.h"
 #include "testpictures.h"
 
 #include <filesystem>
-#include <fstream>
 #include <iostream>
 #include <string>
 #include <vector>

@@ -1,5 +1,6 @@
 // Textures made from PCX files, read back from GL: the pixels bottom-up, white for files that give
 // no picture, and the uploads that wait until a GL context is current.
+#include "bytefile.h"
 #include "gltexture.h"
 #include "gltextureloader.h"
 #include "model.h"
@@ -16,7 +17,6 @@
 #include <GL/gl.h>
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <memory>
 
 namespace {
@@ -47,12 +47,6 @@ Bytes BottomUp(const PcxImage& picture) {
         rgb.insert(rgb.end(), row, row + static_cast<std::ptrdiff_t>(picture.RowBytes()));
     }
     return rgb;
-}
-
-void WriteAll(const std::string& path, const Bytes& bytes) {
-    std::ofstream(path, std::ios::binary)
-        .write(reinterpret_cast<const char*>(bytes.data()),
-               static_cast<std::streamsize>(bytes.size()));
 }
 
 class GLTextureTest : public ::testing::Test {
@@ -95,8 +89,8 @@ TEST_F(GLTextureTest, UploadsEachPictureBottomUpUnderANewName) {
     // Odd widths: the 256-colour texture is as wide as its rows (6), the true-colour one 7 wide.
     const std::string palette8 = folder.file("wing.pcx");
     const std::string trueColour = folder.file("tail.pcx");
-    WriteAll(palette8, EncodePcx8(5, 3, TestIndices(5, 3, 8), TestPalette()));
-    WriteAll(trueColour, EncodePcx24(7, 4, TestRgb(7, 4, 8)));
+    WriteFileBytes(palette8, EncodePcx8(5, 3, TestIndices(5, 3, 8), TestPalette()));
+    WriteFileBytes(trueColour, EncodePcx24(7, 4, TestRgb(7, 4, 8)));
 
     GLint alignment = 0;
     glPixelStorei(GL_UNPACK_ALIGNMENT, 4);
@@ -135,8 +129,8 @@ TEST_F(GLTextureTest, GivesAWhiteTextureForAFileThatIsNoPicture) {
     Bytes unmarked = deep;
     deep[3] = 4;
     unmarked[unmarked.size() - kPcxPaletteBlockBytes] = 0;
-    WriteAll(folder.file("deep.pcx"), deep);
-    WriteAll(folder.file("unmarked.pcx"), unmarked);
+    WriteFileBytes(folder.file("deep.pcx"), deep);
+    WriteFileBytes(folder.file("unmarked.pcx"), unmarked);
 
     for (const std::string& path :
          {folder.file("deep.pcx"), folder.file("unmarked.pcx"), folder.file("missing.pcx")}) {
@@ -160,7 +154,7 @@ TEST_F(GLTextureTest, GivesAWhiteTextureForAFileThatIsNoPicture) {
 
 TEST_F(GLTextureTest, UploadsTexturesLoadedBeforeTheContextWhenTheViewFlushesThem) {
     const std::string path = folder.file("fuselage.pcx");
-    WriteAll(path, EncodePcx24(9, 5, TestRgb(9, 5, 3)));
+    WriteFileBytes(path, EncodePcx24(9, 5, TestRgb(9, 5, 3)));
     GLTextureLoader loader;
     SetTextureLoader(&loader);
     const float granularity = loader.PointSizeGranularity();

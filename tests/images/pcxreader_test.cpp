@@ -1,5 +1,6 @@
 // The PCX reader on files the writer makes, and on files changed byte by byte to be odd, short or
 // lying.
+#include "bytefile.h"
 #include "pcxreader.h"
 #include "pcxwriter.h"
 #include "tempdir.h"
@@ -7,7 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <iterator>
 
 namespace {
@@ -203,9 +203,7 @@ TEST(PcxReader, RefusesFilesItCannotShowWithTheirMessages) {
     const Bytes palette8 = EncodePcx8(3, 3, TestIndices(3, 3, 1), TestPalette());
     auto load = [&](const Bytes& bytes) {
         const std::string path = folder.file("texture.pcx");
-        std::ofstream(path, std::ios::binary)
-            .write(reinterpret_cast<const char*>(bytes.data()),
-                   static_cast<std::streamsize>(bytes.size()));
+        WriteFileBytes(path, bytes);
         host.shown.clear();
         return LoadPCX(path);
     };

@@ -1,12 +1,10 @@
 // What the PCX writer puts on disk: the header, the runs and the palette block.
+#include "bytefile.h"
 #include "pcxwriter.h"
 #include "tempdir.h"
 #include "testpictures.h"
 
 #include <gtest/gtest.h>
-
-#include <fstream>
-#include <iterator>
 
 namespace {
 
@@ -74,8 +72,8 @@ TEST(PcxWriter, RefusesSizesAHeaderCannotHoldAndWritesFiles) {
     TempDir folder;
     const std::string path = folder.file("drawing.pcx");
     ASSERT_TRUE(WritePcx24(path, 2, 2, TestRgb(2, 2, 1)));
-    std::ifstream in(path, std::ios::binary);
-    const Bytes onDisk{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+    Bytes onDisk;
+    ASSERT_TRUE(ReadFileBytes(path, onDisk));
     EXPECT_EQ(onDisk, EncodePcx24(2, 2, TestRgb(2, 2, 1)));
     EXPECT_FALSE(WritePcx8(folder.file("missing/x.pcx"), 1, 1, {0}, TestPalette()));
 }

@@ -1,5 +1,6 @@
 // moxtool texture run as a program: the picture it writes, its exit status and messages, and the
 // acceptance corpus of real PCX files from other programs.
+#include "bytefile.h"
 #include "pcxreader.h"
 #include "pcxwriter.h"
 #include "tempdir.h"
@@ -9,8 +10,6 @@
 
 #include <sys/wait.h>
 
-#include <fstream>
-#include <iterator>
 #include <sstream>
 
 namespace {
@@ -23,14 +22,9 @@ struct ProgramRun {
 };
 
 Bytes ReadAll(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    return Bytes{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
-
-void WriteAll(const std::string& path, const Bytes& bytes) {
-    std::ofstream(path, std::ios::binary)
-        .write(reinterpret_cast<const char*>(bytes.data()),
-               static_cast<std::streamsize>(bytes.size()));
+    Bytes bytes;
+    ReadFileBytes(path, bytes);
+    return bytes;
 }
 
 ProgramRun Moxtool(const TempDir& folder, const std::string& words) {
@@ -74,7 +68,7 @@ TEST(TextureCommand, WritesThePictureTheEditorDecodes) {
     TempDir folder;
     const Bytes indices = TestIndices(5, 2, 4);
     const Bytes file = EncodePcx8(5, 2, indices, TestPalette());
-    WriteAll(folder.file("in.pcx"), file);
+    WriteFileBytes(folder.file("in.pcx"), file);
 
     ASSERT_EQ(Moxtool(folder, Texture(folder.file("in.pcx"), folder.file("out.ppm"))).status, 0);
     const Ppm ppm = ReadPpm(folder.file("out.ppm"));
@@ -96,7 +90,7 @@ TEST(TextureCommand, ExitsWithStatus2WhenNoPictureResults) {
     const std::string out = folder.file("out.ppm");
 
     file[3] = 4;
-    WriteAll(folder.file("deep.pcx"), file);
+    WriteFileBytes(folder.file("deep.pcx"), file);
     ProgramRun run = Moxtool(folder, Texture(folder.file("deep.pcx"), out));
     EXPECT_EQ(run.status, 2);
     EXPECT_NE(run.errors.find("Sorry, can't load " + folder.file("deep.pcx") + "!"),
@@ -104,13 +98,13 @@ TEST(TextureCommand, ExitsWithStatus2WhenNoPictureResults) {
 
     file[3] = 8;
     file[65] = 4;
-    WriteAll(folder.file("planes.pcx"), file);
+    WriteFileBytes(folder.file("planes.pcx"), file);
     EXPECT_EQ(Moxtool(folder, Texture(folder.file("planes.pcx"), out)).status, 2);
     EXPECT_EQ(Moxtool(folder, Texture(folder.file("missing.pcx"), out)).status, 2);
     EXPECT_FALSE(std::filesystem::exists(out));
 
     file[65] = 1;
-    WriteAll(folder.file("good.pcx"), file);
+    WriteFileBytes(folder.file("good.pcx"), file);
     EXPECT_EQ(Moxtool(folder, Texture(folder.file("good.pcx"), folder.file("out.bmp"))).status, 2);
     EXPECT_EQ(Moxtool(folder, "texture").status, 2);
     EXPECT_EQ(Moxtool(folder, "texture --help").status, 0);
