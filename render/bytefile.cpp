@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <new>
 
 bool ReadFileBytes(const std::string& path, std::vector<uint8_t>& bytes) {
     std::error_code error;
@@ -14,7 +15,11 @@ bool ReadFileBytes(const std::string& path, std::vector<uint8_t>& bytes) {
     std::ifstream in(path, std::ios::binary);
     if (!in)
         return false;
-    bytes.resize(static_cast<std::size_t>(size));
+    try {
+        bytes.resize(static_cast<std::size_t>(size));
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
     in.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
     // A file that shrank while it was read keeps only what was there.
     bytes.resize(static_cast<std::size_t>(in.gcount()));

@@ -8,6 +8,7 @@
 #include <GL/gl.h>
 
 #include <cstring>
+#include <new>
 #include <set>
 
 namespace {
@@ -49,7 +50,13 @@ bool LoadGLTexture(const std::string& texturename, int32_t& Texture, int ID) {
 }
 
 uint32_t UploadImageStore(const ImageStore& store) {
-    const std::vector<uint8_t> pixels = BottomUpRows(store);
+    std::vector<uint8_t> pixels;
+    try {
+        pixels = BottomUpRows(store);
+    } catch (const std::bad_alloc&) {
+        // Without memory for the turned rows there is no texture; the model stays usable.
+        return 0;
+    }
     GLuint name = 0;
     glGenTextures(1, &name);
     glBindTexture(GL_TEXTURE_2D, name);

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <new>
 
 namespace {
 
@@ -226,10 +227,15 @@ PcxResult DecodePcx(const uint8_t* bytes, std::size_t size, const std::string& p
     const PcxHeader header = ReadPcxHeader(bytes, size);
     if (header.bitsPerPixel != kSupportedBitsPerPixel)
         return Refused(PcxOutcome::WrongDepth, "Sorry, can't load " + path + "!");
-    if (header.planes == kPalettePlanes)
-        return ReadPaletteImage(bytes, size, header, maxPictureBytes);
-    if (header.planes == kTrueColourPlanes)
-        return ReadTrueColourImage(bytes, size, header, maxPictureBytes);
+    try {
+        if (header.planes == kPalettePlanes)
+            return ReadPaletteImage(bytes, size, header, maxPictureBytes);
+        if (header.planes == kTrueColourPlanes)
+            return ReadTrueColourImage(bytes, size, header, maxPictureBytes);
+    } catch (const std::bad_alloc&) {
+        // A picture within the limit can still find the memory taken.
+        return Refused(PcxOutcome::TooLarge);
+    }
     return Refused(PcxOutcome::UnsupportedPlanes);
 }
 
