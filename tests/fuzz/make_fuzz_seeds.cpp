@@ -13,10 +13,7 @@ namespace {
 namespace fs = std::filesystem;
 
 bool WriteSeed(const fs::path& folder, const std::string& name, const std::vector<uint8_t>& bytes) {
-    std::ofstream out(folder / name, std::ios::binary);
-    out.write(reinterpret_cast<const char*>(bytes.data()),
-              static_cast<std::streamsize>(bytes.size()));
-    return static_cast<bool>(out);
+    return WriteFileBytes((folder / name).string(), bytes);
 }
 
 // 256-colour and 24-bit files: odd widths, padded lines, runs that cross line ends, and files
