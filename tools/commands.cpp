@@ -1,5 +1,7 @@
 #include "commands.h"
 
+#include "texturecommand.h"
+
 const std::vector<ToolCommand>& ToolCommands() {
     static const std::vector<ToolCommand> commands = {
         DumpCommand(),
@@ -7,6 +9,7 @@ const std::vector<ToolCommand>& ToolCommands() {
         ResaveCommand(),
         InfoCommand(),
         ProjectCommand(),
+        {"texture", "decode a PCX texture or drawing to PNG or PPM", RunTextureCommand},
     };
     return commands;
 }
