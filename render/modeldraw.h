@@ -1,0 +1,9 @@
+// model.Draw: what one frame paints — the perspective camera, the loaded files of the family at
+// their hardpoints, and the 3-view backdrops of the orthographic views.
+#pragma once
+
+#include "model.h"
+
+// Paints `current` into the current GL context. A step that fails is passed over and painting
+// goes on with the next, so a fault in one file's data stops neither the frame nor the program.
+void Draw(model& current);

@@ -1,0 +1,62 @@
+// The closing sequence: the question about saving, Cancel, and the end of the main loop.
+#include "currentmodel.h"
+#include "editorfixture.h"
+#include "mainwindow.h"
+#include "oglgraphics.h"
+#include "skylathe.h"
+
+#include <QAction>
+#include <QSignalSpy>
+#include <QTimer>
+
+namespace {
+constexpr const char* kSaveQuestion = "Do you wish to save the current file(s) before exiting?";
+}
+
+TEST_F(EditorTest, ExitWithNothingOpenAsksNothing) {
+    Find<QAction>("mnu_f_exit")->trigger();
+    EXPECT_TRUE(host.messages.empty());
+    EXPECT_FALSE(OGL().bRunning);
+    EXPECT_FALSE(Window().isVisible());
+}
+
+TEST_F(EditorTest, ExitWithAModelOpenAsksAndCancelKeepsTheProgramRunning) {
+    CurrentModel().M_Type = kMoxLoaded;
+    QSignalSpy saved(Find<QAction>("mnu_f_saveall"), &QAction::triggered);
+    host.answers = {MessageAnswer::Cancel, MessageAnswer::No};
+
+    Find<QAction>("mnu_f_exit")->trigger();
+    ASSERT_EQ(host.messages.size(), 1u);
+    EXPECT_EQ(host.messages[0], kSaveQuestion);
+    EXPECT_TRUE(OGL().bRunning);
+    EXPECT_TRUE(Window().isVisible());
+    EXPECT_TRUE(WaitForFrames(2)) << "the view goes on painting after Cancel";
+
+    Window().close();
+    EXPECT_EQ(host.messages.size(), 2u);
+    EXPECT_FALSE(OGL().bRunning);
+    EXPECT_FALSE(Window().isVisible());
+    EXPECT_EQ(saved.count(), 0);
+}
+
+TEST_F(EditorTest, YesSavesEveryFileBeforeClosing) {
+    CurrentModel().M_Type = kMoxLoaded;
+    QSignalSpy saved(Find<QAction>("mnu_f_saveall"), &QAction::triggered);
+    host.answers = {MessageAnswer::Yes};
+
+    Window().close();
+    EXPECT_EQ(host.messages.size(), 1u);
+    EXPECT_EQ(saved.count(), 1);
+    EXPECT_FALSE(OGL().bRunning);
+    EXPECT_FALSE(Window().isVisible());
+}
+
+TEST_F(EditorTest, TheMainLoopEndsWhenTheWindowCloses) {
+    QSignalSpy unloaded(&Window(), &frm_main::Unloaded);
+    QTimer::singleShot(0, &Window(), [this] { Window().close(); });
+    RunMainLoop(Window());
+    EXPECT_EQ(unloaded.count(), 1);
+    EXPECT_FALSE(OGL().bRunning);
+    // With bRunning false the loop does not start again.
+    RunMainLoop(Window());
+}

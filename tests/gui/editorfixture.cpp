@@ -1,0 +1,67 @@
+#include "editorfixture.h"
+
+#include "glview.h"
+#include "mainwindow.h"
+#include "oglgraphics.h"
+#include "programstate.h"
+#include "skylathe.h"
+#include "viewsettings.h"
+
+#include <QScreen>
+#include <QTest>
+
+#include <GL/gl.h>
+
+#include <ostream>
+
+namespace {
+constexpr int kFrameWaitMilliseconds = 10000;
+}
+
+void EditorTest::SetUp() {
+    ResetProgramState();
+    ResetViewSettings();
+    window_ = StartUp("");
+    ASSERT_TRUE(OGL().bRunning) << "the GL view has no context";
+    ASSERT_TRUE(WaitForFrames(1));
+}
+
+void EditorTest::TearDown() {
+    ShutDown(std::move(window_));
+}
+
+GLView& EditorTest::Surface() {
+    return *window_->glView;
+}
+
+bool EditorTest::WaitForFrames(int count) {
+    const int64_t target = Surface().FrameCount() + count;
+    return QTest::qWaitFor([&] { return Surface().FrameCount() >= target; },
+                           kFrameWaitMilliseconds);
+}
+
+QImage EditorTest::ReadFrame() {
+    if (!OGL().MakeCurrent())
+        return {};
+    OGL().RenderFrame();
+    glFinish();
+    const QSize size = Surface().size() * Surface().devicePixelRatio();
+    QImage image(size, QImage::Format_RGBA8888);
+    glReadBuffer(GL_BACK);
+    glReadPixels(0, 0, size.width(), size.height(), GL_RGBA, GL_UNSIGNED_BYTE, image.bits());
+    // GL counts rows from the bottom.
+    return image.mirrored();
+}
+
+QImage EditorTest::GrabShownFrame() {
+    return Surface().screen()->grabWindow(Surface().winId()).toImage();
+}
+
+Rgb PixelAt(const QImage& image, int x, int y) {
+    const QColor colour = image.pixelColor(x, y);
+    return {colour.red(), colour.green(), colour.blue()};
+}
+
+void PrintTo(const Rgb& colour, std::ostream* out) {
+    *out << "(" << colour.red << ", " << colour.green << ", " << colour.blue << ")";
+}

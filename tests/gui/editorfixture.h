@@ -1,0 +1,55 @@
+// A fixture that starts the editor as the program does, with every message and question going to
+// a RecordingHost, and reads pixels back from its GL view.
+#pragma once
+
+#include "mainwindow.h"
+#include "recordinghost.h"
+
+#include <QColor>
+#include <QImage>
+#include <gtest/gtest.h>
+
+#include <memory>
+
+class GLView;
+
+class EditorTest : public ::testing::Test {
+protected:
+    // Starts the editor with nothing loaded and waits for its first frame.
+    void SetUp() override;
+    void TearDown() override;
+
+    frm_main& Window() { return *window_; }
+    GLView& Surface();
+    // The window's child of the given Qt object name, or nullptr.
+    template <typename T> T* Find(const char* name) const;
+
+    // Waits, by letting events run, until the view has painted `count` more frames. False when
+    // they do not come within a few seconds.
+    bool WaitForFrames(int count);
+    // Paints one frame into the view's back buffer, as the view paints it, and reads it back.
+    QImage ReadFrame();
+    // The view's pixels as the display shows them, after the last buffer swap.
+    QImage GrabShownFrame();
+
+    RecordingHost host;
+
+private:
+    std::unique_ptr<frm_main> window_;
+};
+
+template <typename T> T* EditorTest::Find(const char* name) const {
+    return window_->findChild<T*>(name);
+}
+
+// The red, green and blue of a pixel, for comparing with a sky colour.
+struct Rgb {
+    int red = 0;
+    int green = 0;
+    int blue = 0;
+    bool operator==(const Rgb& other) const {
+        return red == other.red && green == other.green && blue == other.blue;
+    }
+};
+Rgb PixelAt(const QImage& image, int x, int y);
+void PrintTo(const Rgb& colour, std::ostream* out);

@@ -1,0 +1,143 @@
+// The GL context, the frame and the viewport, read back from the view.
+#include "currentmodel.h"
+#include "editorfixture.h"
+#include "glview.h"
+#include "modeldraw.h"
+#include "oglgraphics.h"
+#include "programstate.h"
+#include "viewsettings.h"
+
+#include <QMatrix4x4>
+#include <QOpenGLContext>
+
+#include <GL/gl.h>
+
+#include <array>
+#include <cmath>
+
+namespace {
+
+// The start sky colour 178, 229, 255 divided by 256, as an 8-bit buffer holds it:
+// round(178 / 256 * 255) = 177, round(229 / 256 * 255) = 228, round(255 / 256 * 255) = 254.
+const Rgb kStartSkyInEightBits{177, 228, 254};
+
+void ExpectSkyEverywhere(const QImage& frame, const char* what) {
+    ASSERT_FALSE(frame.isNull()) << what;
+    const int right = frame.width() - 1;
+    const int bottom = frame.height() - 1;
+    for (const QPoint& at : {QPoint(0, 0), QPoint(right, 0), QPoint(0, bottom),
+                             QPoint(right, bottom), QPoint(right / 2, bottom / 2)})
+        EXPECT_EQ(PixelAt(frame, at.x(), at.y()), kStartSkyInEightBits)
+            << what << " at " << at.x() << "," << at.y();
+}
+
+std::array<GLfloat, 4> ClearColour() {
+    std::array<GLfloat, 4> colour{};
+    glGetFloatv(GL_COLOR_CLEAR_VALUE, colour.data());
+    return colour;
+}
+
+} // namespace
+
+TEST_F(EditorTest, TheContextIsADoubleBufferedCompatibilityContext) {
+    const QSurfaceFormat format = Surface().context()->format();
+    EXPECT_EQ(format.profile(), QSurfaceFormat::CompatibilityProfile);
+    EXPECT_EQ(format.swapBehavior(), QSurfaceFormat::DoubleBuffer);
+    EXPECT_EQ(format.redBufferSize(), 8);
+    EXPECT_EQ(format.greenBufferSize(), 8);
+    EXPECT_EQ(format.blueBufferSize(), 8);
+    EXPECT_GE(format.depthBufferSize(), 24);
+}
+
+TEST_F(EditorTest, AFrameWithNothingLoadedIsTheSkyColourInEveryView) {
+    ASSERT_TRUE(WaitForFrames(2));
+    ExpectSkyEverywhere(GrabShownFrame(), "shown frame");
+    ExpectSkyEverywhere(ReadFrame(), "perspective frame");
+
+    View().ViewMode = kTopView;
+    ExpectSkyEverywhere(ReadFrame(), "top view frame");
+    CurrentModel().M_Type = kMoyLoaded;
+    ExpectSkyEverywhere(ReadFrame(), "frame of a .moy load");
+}
+
+TEST_F(EditorTest, TheSkyColourIsDividedBy256) {
+    ASSERT_TRUE(OGL().MakeCurrent());
+    Program().SkyColour = {255, 255, 255};
+    ASSERT_TRUE(OGL().Initialise(Surface()));
+    EXPECT_EQ(ClearColour(), (std::array<GLfloat, 4>{0.99609375f, 0.99609375f, 0.99609375f, 0.0f}));
+
+    Program().SkyColour = {0, 128, 64};
+    ASSERT_TRUE(OGL().Initialise(Surface()));
+    EXPECT_EQ(ClearColour(), (std::array<GLfloat, 4>{0.0f, 0.5f, 0.25f, 0.0f}));
+    EXPECT_EQ(PixelAt(ReadFrame(), 10, 10), (Rgb{0, 128, 64}));
+}
+
+TEST_F(EditorTest, AViewOfHeightZeroGetsAViewportOfHeightOne) {
+    ASSERT_TRUE(OGL().MakeCurrent());
+    OGL().ReSizeGLScene(640, 0);
+
+    std::array<GLint, 4> viewport{};
+    glGetIntegerv(GL_VIEWPORT, viewport.data());
+    EXPECT_EQ(viewport, (std::array<GLint, 4>{0, 0, 640, 1}));
+
+    std::array<GLfloat, 16> projection{};
+    glGetFloatv(GL_PROJECTION_MATRIX, projection.data());
+    for (const GLfloat value : projection)
+        ASSERT_TRUE(std::isfinite(value));
+    // gluPerspective scales x by the aspect ratio less than y: 640 / 1.
+    EXPECT_FLOAT_EQ(projection[5] / projection[0], 640.0f);
+
+    std::array<GLint, 1> matrixMode{};
+    glGetIntegerv(GL_MATRIX_MODE, matrixMode.data());
+    EXPECT_EQ(matrixMode[0], GL_MODELVIEW);
+}
+
+TEST_F(EditorTest, ThePerspectiveCameraFollowsTheModelsCameraFields) {
+    model& current = CurrentModel();
+    current.m_xpos = 3.0f;
+    current.m_ypos = -2.0f;
+    current.m_zoom = -250.0f;
+    current.m_xrot = 135.0f;
+    current.m_yrot = 10.0f;
+    current.m_bank = 20.0f;
+    ASSERT_TRUE(OGL().MakeCurrent());
+    OGL().RenderFrame();
+
+    QMatrix4x4 expected;
+    expected.translate(3.0f, -2.0f, -250.0f);
+    expected.rotate(-90.0f, 1.0f, 0.0f, 0.0f);
+    expected.rotate(135.0f, 0.0f, 0.0f, 1.0f);
+    expected.rotate(10.0f, 0.0f, 1.0f, 0.0f);
+    expected.rotate(20.0f, 1.0f, 0.0f, 0.0f);
+    std::array<GLfloat, 16> modelview{};
+    glGetFloatv(GL_MODELVIEW_MATRIX, modelview.data());
+    for (int i = 0; i < 16; ++i)
+        EXPECT_NEAR(modelview[i], expected.constData()[i], 1e-3f) << "element " << i;
+
+    // An orthographic view keeps the matrix its camera set.
+    View().ViewMode = kFrontView;
+    glLoadIdentity();
+    OGL().RenderFrame();
+    glGetFloatv(GL_MODELVIEW_MATRIX, modelview.data());
+    EXPECT_EQ(modelview[12], 0.0f);
+    EXPECT_EQ(modelview[14], 0.0f);
+}
+
+TEST_F(EditorTest, DrawPassesOverAFamilyItCannotPaint) {
+    model& current = CurrentModel();
+    current.M_Type = kMoxLoaded; // and not one file in Files
+    ExpectSkyEverywhere(ReadFrame(), "a family without files");
+
+    current.Files.resize(2);
+    current.m_currmox = 5;
+    View().chk_thismox = true;
+    ExpectSkyEverywhere(ReadFrame(), "a current file beyond the family");
+    current.m_currmox = -1;
+    ExpectSkyEverywhere(ReadFrame(), "a negative current file");
+    View().chk_thismox = false;
+    ExpectSkyEverywhere(ReadFrame(), "a family shorter than its slots");
+}
+
+TEST_F(EditorTest, TheViewRepaintsWithoutAnyChange) {
+    EXPECT_TRUE(WaitForFrames(5));
+}
