@@ -11,6 +11,10 @@
 
 namespace {
 
+constexpr const char* kDescription =
+    "Loads a project as the editor does and prints what it brought: the model kind, the family's "
+    "files and whether each loaded, the dimensions, the 3-view drawings, the notes, and the "
+    "messages of the load.";
 constexpr const char* kUsage = "moxtool project FILE.3vw";
 
 struct SlotField {
@@ -68,14 +72,9 @@ void PrintProject(const model& loaded, const ProjectRecord& project, std::ostrea
 }
 
 int RunProject(const Arguments& args) {
-    if (HelpRequested(args)) {
-        std::cout << "usage: " << kUsage
-                  << "\n\nLoads a project as the editor does and prints what it brought: the model "
-                     "kind, the family's files and whether each loaded, the dimensions, the 3-view "
-                     "drawings, the notes, and the messages of the load.\n";
+    if (ShowHelp(args, kUsage, kDescription))
         return kExitOk;
-    }
-    if (args.size() != 1 || args[0].rfind("-", 0) == 0)
+    if (args.size() != 1 || !NoOptions(args))
         return UsageError(kUsage);
 
     ResetProgramState();
