@@ -1,6 +1,11 @@
 #include "commands.h"
 
 const std::vector<ToolCommand>& ToolCommands() {
-    static const std::vector<ToolCommand> commands = {};
+    static const std::vector<ToolCommand> commands = {
+        DumpCommand(),
+        BuildCommand(),
+        ResaveCommand(),
+        InfoCommand(),
+    };
     return commands;
 }

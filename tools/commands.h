@@ -13,6 +13,11 @@ struct ToolCommand {
     int (*run)(const Arguments& args);
 };
 
+ToolCommand DumpCommand();
+ToolCommand BuildCommand();
+ToolCommand ResaveCommand();
+ToolCommand InfoCommand();
+
 // Every command, in the order `moxtool --help` lists them.
 const std::vector<ToolCommand>& ToolCommands();
 

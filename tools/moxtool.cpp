@@ -2,6 +2,7 @@
 // by hand.
 #include "commands.h"
 
+#include <exception>
 #include <iostream>
 
 namespace {
@@ -26,8 +27,16 @@ int main(int argc, char** argv) {
         return kExitOk;
     }
     for (const ToolCommand& command : ToolCommands()) {
-        if (words[0] == command.name)
+        if (words[0] != command.name)
+            continue;
+        // A command's own failures end in its exit status; this only catches what no command
+        // foresaw, such as running out of memory, so that it still ends in a one-line message.
+        try {
             return command.run(Arguments(words.begin() + 1, words.end()));
+        } catch (const std::exception& failure) {
+            std::cerr << "moxtool: " << command.name << ": " << failure.what() << "\n";
+            return kExitFailure;
+        }
     }
     std::cerr << "moxtool: unknown command '" << words[0] << "'\n";
     PrintUsage(std::cerr);

@@ -1,0 +1,25 @@
+// The element kinds and what each stores in a stream behind its Type byte, shared by the reader,
+// the writer and the JSON form so that all three walk an entry the same way.
+#pragma once
+
+#include <cstdint>
+
+constexpr uint8_t kTypeColouredLine = 1;
+constexpr uint8_t kTypeHardpoint = 2;
+constexpr uint8_t kTypeColouredPoly = 3;
+constexpr uint8_t kTypeGouraudPoly = 4;
+constexpr uint8_t kTypeTexturedPoly = 5;
+constexpr uint8_t kTypeTransparentPoly = 6;
+
+// What an entry of a given Type holds. Any Type other than 1, 2, 3, 4 and 255 is stored like a
+// Textured Poly.
+struct KindLayout {
+    bool storesCRN = false; // CRN is in the stream; otherwise the kind fixes the corner count
+    int fixedCorners = 0;   // corners of a kind that does not store CRN
+    bool hasXMap = false;   // x map (kinds 5, 6) or corner colour (kind 4)
+    bool hasYMap = false;
+    bool hasAtt1 = false;
+    bool hasAtt2 = false;
+};
+
+KindLayout LayoutOf(uint8_t type);

@@ -1,0 +1,212 @@
+#include "moxreader.h"
+
+#include "elementkind.h"
+#include "modelhost.h"
+#include "programstate.h"
+#include "textureloader.h"
+#include "texturepath.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <limits>
+
+namespace {
+
+constexpr const char* kTooManyEntries = "Error in MOX file.  Around element number: ";
+constexpr const char* kBadTexture = "Cannot load texture. Must be a PCX file!";
+
+// The hardpoint codes that fill HP(1) to HP(6), in slot order.
+constexpr uint8_t kHardpointCodes[] = {25, 26, 27, 28, 29, 10};
+
+// Array sizes follow the counts; a negative count sizes as 0.
+size_t SizeFor(int count) {
+    return static_cast<size_t>(std::max(count, 0));
+}
+
+void ReadCorners(MoxInput& file, Piggyback& entry, const KindLayout& layout) {
+    const size_t corners = entry.CRN;
+    entry.NodeList.assign(corners + 1, 0);
+    if (layout.hasXMap)
+        entry.XMap.assign(corners + 1, 0);
+    if (layout.hasYMap)
+        entry.YMap.assign(corners + 1, 0);
+    for (size_t k = 0; k < corners; ++k) {
+        entry.NodeList[k] = file.ReadByte();
+        if (layout.hasXMap)
+            entry.XMap[k] = file.ReadByte();
+        if (layout.hasYMap)
+            entry.YMap[k] = file.ReadByte();
+    }
+}
+
+void ReadTables(MoxInput& file, FileRecord& record) {
+    record.Radius = file.ReadInt16();
+    for (uint8_t& c : record.Texture)
+        c = file.ReadByte();
+    record.NumParts = file.ReadInt16();
+    record.NumNodes = file.ReadInt16();
+    record.NumElements = file.ReadInt16();
+
+    record.Parts.resize(SizeFor(record.NumParts));
+    record.NRM.resize(SizeFor(record.NumElements) + 1);
+    record.PART.resize(SizeFor(record.NumElements) + 1);
+    record.Offsets.resize(SizeFor(record.NumElements) + 1);
+    record.Elements.resize(SizeFor(record.NumElements) + 1);
+    record.Nodes.resize(SizeFor(record.NumNodes) + 1);
+
+    for (int p = 0; p < record.NumParts - 1; ++p) {
+        Part& part = record.Parts[p];
+        part.Code = file.ReadByte();
+        part.Num = file.ReadByte();
+        part.Y = file.ReadInt16();
+        part.Z = file.ReadInt16();
+        part.X = file.ReadInt16();
+    }
+    for (int i = 0; i < record.NumElements; ++i) {
+        NRMRecord& plane = record.NRM[i];
+        plane.Y = file.ReadInt16();
+        plane.Z = file.ReadInt16();
+        plane.X = file.ReadInt16();
+        plane.D = file.ReadInt32();
+        plane.F = file.ReadInt16();
+    }
+    record.Root[0] = file.ReadByte();
+    record.Root[1] = file.ReadByte();
+    for (int i = 0; i < record.NumElements; ++i) {
+        record.PART[i][0] = file.ReadByte();
+        record.PART[i][1] = file.ReadByte();
+    }
+    for (int n = 0; n < record.NumNodes; ++n) {
+        Node& node = record.Nodes[n];
+        node.Y = file.ReadInt16();
+        node.Z = file.ReadInt16();
+        node.X = file.ReadInt16();
+        node.B = file.ReadInt16();
+    }
+    for (int i = 0; i < record.NumElements; ++i)
+        record.Offsets[i] = file.ReadInt16();
+}
+
+// A hardpoint entry copies the node at its first corner into the HP slot of its code; a node
+// outside Nodes leaves the slot as it was.
+void NoteHardpoint(FileRecord& record, const Piggyback& entry) {
+    const auto* code =
+        std::find(std::begin(kHardpointCodes), std::end(kHardpointCodes), entry.Att1);
+    if (code == std::end(kHardpointCodes))
+        return;
+    const size_t node = entry.NodeList[0];
+    if (node < record.Nodes.size())
+        record.HP[1 + (code - std::begin(kHardpointCodes))] = record.Nodes[node];
+}
+
+void ReadElements(MoxInput& file, FileRecord& record) {
+    int64_t entriesHeld = 0;
+    for (int i = 0; i < record.NumElements; ++i) {
+        ElementList& list = record.Elements[i];
+        file.Seek(record.Offsets[i]);
+        bool ended = false;
+        for (int j = 0; !ended; ++j) {
+            list.Count = static_cast<int16_t>(j + 1);
+            list.Items.resize(static_cast<size_t>(list.Count) + 1);
+            Piggyback& entry = list.Items[j];
+            READ_ELEMENT_MOX(file, entry);
+            ++entriesHeld;
+            // A Number beyond 16 bits cannot be given; the entry keeps 0 then.
+            const int number = i * 100 + j;
+            if (number <= std::numeric_limits<int16_t>::max())
+                entry.Number = static_cast<int16_t>(number);
+            if (entry.Type == kTypeHardpoint)
+                NoteHardpoint(record, entry);
+            ended = entry.NextByte == kTypeNull;
+            // The byte read as NextByte opens the next entry.
+            file.StepBack();
+            if (list.Count > kMaxPiggybacks || entriesHeld >= kMaxEntriesPerRecord) {
+                ShowMessage(kTooManyEntries + std::to_string(i));
+                file.Close();
+                ended = true;
+            }
+        }
+    }
+}
+
+std::vector<uint8_t> ReadFileStart(const std::string& filename) {
+    std::vector<uint8_t> bytes;
+    std::ifstream in(filename, std::ios::binary | std::ios::ate);
+    const std::streamoff size = in ? static_cast<std::streamoff>(in.tellg()) : 0;
+    if (size <= 0)
+        return bytes;
+    bytes.resize(std::min(static_cast<size_t>(size), kMaxUsefulFileBytes));
+    in.seekg(0);
+    in.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    bytes.resize(static_cast<size_t>(std::max<std::streamsize>(in.gcount(), 0)));
+    return bytes;
+}
+
+} // namespace
+
+void READ_ELEMENT_MOX(MoxInput& file, Piggyback& entry) {
+    entry.Type = file.ReadByte();
+    entry.COD = 0;
+    entry.Flag = 0;
+    if (entry.Type >= kFirstDisplayCode && entry.Type <= kLastDisplayCode) {
+        entry.COD = entry.Type;
+        entry.Flag = file.ReadByte();
+        entry.Type = file.ReadByte();
+    }
+    if (entry.Type == kTypeNull) {
+        entry.NextByte = kTypeNull;
+        return;
+    }
+    const KindLayout layout = LayoutOf(entry.Type);
+    if (layout.storesCRN) {
+        entry.CRN = file.ReadByte();
+        ReadCorners(file, entry, layout);
+    } else if (entry.Type == kTypeColouredLine) {
+        entry.NodeList.assign(3, 0);
+        entry.NodeList[0] = file.ReadByte();
+        entry.NodeList[1] = file.ReadByte();
+        entry.CRN = 2;
+    } else { // kTypeHardpoint: the code comes before the one node
+        entry.NodeList.assign(2, 0);
+        entry.Att1 = file.ReadByte();
+        entry.NodeList[0] = file.ReadByte();
+        entry.CRN = 1;
+        entry.NextByte = file.ReadByte();
+        return;
+    }
+    if (layout.hasAtt1)
+        entry.Att1 = file.ReadByte();
+    if (layout.hasAtt2)
+        entry.Att2 = file.ReadByte();
+    entry.NextByte = file.ReadByte();
+}
+
+FileRecord ReadMoxBytes(const std::vector<uint8_t>& bytes, const std::string& Filename,
+                        int16_t Index) {
+    FileRecord record;
+    record.Filename = Filename;
+    MoxInput file(bytes);
+    ReadTables(file, record);
+    record.HP[0] = Node{};
+    ReadElements(file, record);
+
+    TextureLoader* loader = CurrentTextureLoader();
+    record.PointStep = loader != nullptr ? loader->PointSizeGranularity() : 1.0f;
+    // The texture is looked for in the model's folder; the current directory is left alone.
+    if (loader != nullptr &&
+        !loader->LoadGLTexture(TexturePath(Filename, record.Texture), record.TextureID, Index))
+        ShowMessage(kBadTexture);
+
+    record.Index = Index;
+    record.Loaded = true;
+    Program().ProjectData.Type = 1;
+    return record;
+}
+
+FileRecord READ_MOX(const std::string& Filename, int16_t Index) {
+    std::error_code error;
+    if (Filename.empty() || !std::filesystem::is_regular_file(Filename, error))
+        return FileRecord{};
+    return ReadMoxBytes(ReadFileStart(Filename), Filename, Index);
+}

@@ -1,0 +1,325 @@
+// The .mox reader: layout of the tables, the walk of the streams, hardpoints, damaged files and
+// the texture lookup.
+#include "moxbuilder.h"
+#include "moxreader.h"
+#include "programstate.h"
+#include "recordinghost.h"
+#include "recordingtextureloader.h"
+#include "tempdir.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+std::vector<Node> CountingNodes(int count) {
+    std::vector<Node> nodes;
+    for (int n = 0; n < count; ++n)
+        nodes.push_back(Node{static_cast<int16_t>(n), static_cast<int16_t>(2 * n),
+                             static_cast<int16_t>(3 * n), 0});
+    return nodes;
+}
+
+FileRecord Read(const MoxBuilder& builder, int16_t index = 0) {
+    return ReadMoxBytes(builder.Build(), "/models/PLANEF.MOX", index);
+}
+
+} // namespace
+
+TEST(MoxReader, ReadsTheTexturedTriangleWithItsDisplayCode) {
+    ResetProgramState();
+    MoxBuilder builder;
+    builder.nodes = CountingNodes(0x13);
+    builder.streams = {StreamBytes()
+                           .Raw({0x94, 0x01, 0x05, 0x03, 0x10, 0x20, 0x40, 0x11, 0x70, 0x40, 0x12,
+                                 0x30, 0x08, 0x00, 0x07, 0xFF})
+                           .bytes};
+    RecordingHost host;
+    const FileRecord record = Read(builder, 3);
+
+    EXPECT_TRUE(host.messages.empty());
+    EXPECT_TRUE(record.Loaded);
+    EXPECT_EQ(record.Index, 3);
+    EXPECT_EQ(record.Filename, "/models/PLANEF.MOX");
+    EXPECT_EQ(Program().ProjectData.Type, 1);
+    ASSERT_EQ(record.Elements.size(), 2u);
+    const ElementList& list = record.Elements[0];
+    ASSERT_EQ(list.Count, 1) << "the closing byte becomes no entry";
+    ASSERT_EQ(list.Items.size(), 2u);
+    const Piggyback& item = list.Items[0];
+    EXPECT_EQ(item.COD, 148);
+    EXPECT_EQ(item.Flag, 1);
+    EXPECT_EQ(item.Type, 5);
+    EXPECT_EQ(item.CRN, 3);
+    EXPECT_EQ(item.NodeList, (std::vector<uint8_t>{0x10, 0x11, 0x12, 0}));
+    EXPECT_EQ(item.XMap, (std::vector<uint8_t>{0x20, 0x70, 0x30, 0}));
+    EXPECT_EQ(item.YMap, (std::vector<uint8_t>{0x40, 0x40, 0x08, 0}));
+    EXPECT_EQ(item.Att1, 0);
+    EXPECT_EQ(item.Att2, 7);
+    EXPECT_EQ(item.NextByte, 255);
+}
+
+TEST(MoxReader, ReadsEveryKindAndNumbersTheEntries) {
+    MoxBuilder builder;
+    builder.nodes = CountingNodes(8);
+    builder.streams = {
+        StreamBytes().End().bytes,
+        StreamBytes()
+            .Line(1, 2, 40)
+            .Prefix(7, 3)
+            .Hardpoint(30, 4)
+            .ColouredPoly({1, 2, 3}, 9)
+            .GouraudPoly({{1, 11}, {2, 12}})
+            .MappedPoly(6, {{1, 2, 3}}, 4, 5)
+            .MappedPoly(0, {}, 6, 7)
+            .Prefix(200, 9)
+            .MappedPoly(150, {{7, 8, 9}}, 1, 2)
+            .End()
+            .bytes,
+    };
+    const FileRecord record = Read(builder);
+
+    const ElementList& empty = record.Elements[0];
+    ASSERT_EQ(empty.Count, 1);
+    EXPECT_EQ(empty.Items[0].Type, kTypeNull);
+    EXPECT_EQ(empty.Items[0].CRN, 0);
+    EXPECT_EQ(empty.Items[0].NextByte, 255);
+
+    const ElementList& list = record.Elements[1];
+    ASSERT_EQ(list.Count, 7);
+    for (int j = 0; j < list.Count; ++j)
+        EXPECT_EQ(list.Items[j].Number, 100 + j);
+    EXPECT_EQ(list.Items[0].Type, 1);
+    EXPECT_EQ(list.Items[0].CRN, 2);
+    EXPECT_EQ(list.Items[0].NodeList, (std::vector<uint8_t>{1, 2, 0}));
+    EXPECT_EQ(list.Items[0].Att1, 40);
+    EXPECT_EQ(list.Items[1].COD, 7);
+    EXPECT_EQ(list.Items[1].Flag, 3);
+    EXPECT_EQ(list.Items[1].Type, 2);
+    EXPECT_EQ(list.Items[1].Att1, 30);
+    EXPECT_EQ(list.Items[1].NodeList, (std::vector<uint8_t>{4, 0}));
+    EXPECT_EQ(list.Items[2].NodeList, (std::vector<uint8_t>{1, 2, 3, 0}));
+    EXPECT_EQ(list.Items[2].Att1, 9);
+    EXPECT_TRUE(list.Items[2].XMap.empty());
+    EXPECT_EQ(list.Items[3].XMap, (std::vector<uint8_t>{11, 12, 0}));
+    EXPECT_TRUE(list.Items[3].YMap.empty());
+    EXPECT_EQ(list.Items[4].Type, 6);
+    EXPECT_EQ(list.Items[4].YMap, (std::vector<uint8_t>{3, 0}));
+    EXPECT_EQ(list.Items[5].Type, 0) << "first byte 0 is read like a Textured Poly";
+    EXPECT_EQ(list.Items[5].Att2, 7);
+    EXPECT_EQ(list.Items[6].COD, 200);
+    EXPECT_EQ(list.Items[6].Type, 150) << "behind a Flag any byte is a Type";
+    EXPECT_EQ(list.Items[6].XMap, (std::vector<uint8_t>{8, 0}));
+}
+
+TEST(MoxReader, FindsTheTablesWhateverTheCounts) {
+    for (const int16_t numParts : {0, 1, 3}) {
+        SCOPED_TRACE(numParts);
+        MoxBuilder builder;
+        builder.radius = -1234;
+        builder.SetTexture("PLANE.TPC");
+        if (numParts == 3)
+            builder.parts = {Part{1, 2, 3, 4, 5}, Part{2, 7, -3, -4, -5}};
+        builder.numParts = numParts;
+        builder.nodes = {Node{10, 20, 30, 1}};
+        builder.planes = {NRMRecord{16384, 0, 0, -70000, 12}};
+        builder.root = {0, 255};
+        builder.children = {{255, 7}};
+        builder.streams = {StreamBytes().Line(0, 0, 1).End().bytes};
+        const FileRecord record = Read(builder);
+
+        EXPECT_EQ(record.Radius, -1234);
+        EXPECT_EQ(std::string(record.Texture.begin(), record.Texture.begin() + 9), "PLANE.TPC");
+        EXPECT_EQ(record.NumParts, numParts);
+        EXPECT_EQ(record.Parts.size(), static_cast<size_t>(numParts));
+        if (numParts == 3) {
+            EXPECT_EQ(record.Parts[1].Code, 2);
+            EXPECT_EQ(record.Parts[1].Num, 7);
+            EXPECT_EQ(record.Parts[1].X, -5);
+        }
+        EXPECT_EQ(record.NRM[0].Y, 16384);
+        EXPECT_EQ(record.NRM[0].D, -70000);
+        EXPECT_EQ(record.NRM[0].F, 12);
+        EXPECT_EQ(record.Root, (ChildPair{0, 255}));
+        EXPECT_EQ(record.PART[0], (ChildPair{255, 7}));
+        ASSERT_EQ(record.Nodes.size(), 2u);
+        EXPECT_EQ(record.Nodes[0].X, 30);
+        EXPECT_EQ(record.Nodes[0].B, 1);
+        EXPECT_EQ(record.Elements[0].Items[0].Type, 1);
+    }
+
+    MoxBuilder noElements;
+    noElements.root = {4, 5};
+    noElements.nodes = {Node{1, 2, 3, 0}};
+    const FileRecord record = Read(noElements);
+    EXPECT_EQ(record.NumElements, 0);
+    EXPECT_EQ(record.Root, (ChildPair{4, 5})) << "Root follows the empty tables";
+    EXPECT_EQ(record.Nodes[0].X, 3);
+    EXPECT_EQ(record.Elements.size(), 1u);
+}
+
+TEST(MoxReader, NegativeCountsSizeNoArraysAndReadNothing) {
+    MoxBuilder builder;
+    builder.numParts = -5;
+    builder.numNodes = -1;
+    builder.numElements = -32768;
+    const FileRecord record = Read(builder);
+    EXPECT_EQ(record.NumParts, -5);
+    EXPECT_EQ(record.NumElements, -32768);
+    EXPECT_TRUE(record.Parts.empty());
+    EXPECT_EQ(record.Nodes.size(), 1u);
+    EXPECT_EQ(record.Elements.size(), 1u);
+    EXPECT_TRUE(record.Loaded);
+}
+
+TEST(MoxReader, HardpointsFillTheirSlotsTheLaterWinning) {
+    MoxBuilder builder;
+    builder.nodes = CountingNodes(10);
+    builder.streams = {
+        StreamBytes().Hardpoint(25, 1).Hardpoint(26, 2).Hardpoint(30, 3).End().bytes,
+        StreamBytes()
+            .Hardpoint(25, 4)
+            .Hardpoint(27, 5)
+            .Hardpoint(28, 6)
+            .Hardpoint(29, 7)
+            .Hardpoint(10, 8)
+            .Hardpoint(26, 200)
+            .End()
+            .bytes,
+    };
+    const FileRecord record = Read(builder);
+    const int expected[] = {0, 4, 2, 5, 6, 7, 8, 0};
+    for (int slot = 0; slot < kFileSlots; ++slot)
+        EXPECT_EQ(record.HP[slot].Y, expected[slot]) << "slot " << slot;
+    EXPECT_EQ(record.HP[1].X, 12);
+    EXPECT_EQ(record.Elements[0].Items[2].Att1, 30) << "code 30 stays an ordinary entry";
+}
+
+TEST(MoxReader, DamagedStreamsEndAtTheEntryLimit) {
+    MoxBuilder builder;
+    builder.streams = {
+        StreamBytes().Line(0, 0, 0).End().bytes,
+        StreamBytes().Raw(std::vector<uint8_t>(300 * 4, 1)).bytes, // no closing byte in sight
+        StreamBytes().Line(1, 1, 1).End().bytes,
+        StreamBytes().End().bytes,
+    };
+    RecordingHost host;
+    const FileRecord record = Read(builder);
+
+    EXPECT_EQ(host.messages, (std::vector<std::string>{
+                                 "Error in MOX file.  Around element number: 1",
+                                 "Error in MOX file.  Around element number: 2",
+                                 "Error in MOX file.  Around element number: 3",
+                             }));
+    EXPECT_TRUE(record.Loaded);
+    EXPECT_EQ(record.Elements[0].Count, 1);
+    EXPECT_EQ(record.Elements[1].Count, 256);
+    EXPECT_EQ(record.Elements[1].Items[255].Type, 1);
+    for (const int i : {2, 3}) {
+        const ElementList& list = record.Elements[i];
+        ASSERT_EQ(list.Count, 256);
+        EXPECT_EQ(list.Items[0].Type, 0);
+        EXPECT_EQ(list.Items[255].Type, 0);
+        EXPECT_EQ(list.Items[255].CRN, 0);
+        EXPECT_EQ(list.Items[255].Number, i * 100 + 255);
+    }
+}
+
+TEST(MoxReader, ReadsBeyondTheEndGiveZeros) {
+    MoxBuilder builder;
+    builder.nodes = CountingNodes(4);
+    builder.streams = {StreamBytes().End().bytes};
+    std::vector<uint8_t> bytes = builder.Build();
+    bytes.resize(22 + 12 + 2 + 2 + 8 + 2); // cut inside the second node
+    const FileRecord record = ReadMoxBytes(bytes, "CUT.MOX", 0);
+    EXPECT_EQ(record.Nodes[1].Y, 1);
+    EXPECT_EQ(record.Nodes[3].X, 0);
+    EXPECT_EQ(record.Offsets[0], 0);
+    EXPECT_TRUE(record.Loaded);
+
+    RecordingHost host;
+    // An offset outside the file, negative or past its end, reads only zeros.
+    builder.offsetOverrides = {{0, -2}};
+    const FileRecord negative = Read(builder);
+    EXPECT_EQ(negative.Elements[0].Count, 256);
+    builder.offsetOverrides = {{0, 32767}};
+    const FileRecord beyond = Read(builder);
+    EXPECT_EQ(beyond.Elements[0].Count, 256);
+    EXPECT_EQ(host.messages.size(), 2u);
+}
+
+TEST(MoxReader, AHostileFileHoldsABoundedNumberOfEntries) {
+    // Every element shares one stream of 255 entries; past 255 full elements the record stops
+    // growing and each further element holds one blank entry.
+    StreamBytes shared;
+    for (int j = 0; j < 254; ++j)
+        shared.Raw({4, 0});
+    shared.Raw({4, 0}).End();
+    MoxBuilder builder;
+    builder.streams = {shared.bytes};
+    builder.numElements = 400;
+    const int16_t start = 22 + 400 * 12 + 2 + 400 * 2 + 400 * 2;
+    for (int i = 0; i < 400; ++i)
+        builder.offsetOverrides[i] = start;
+    const std::vector<uint8_t> bytes = builder.Build();
+    RecordingHost host;
+    const FileRecord record = ReadMoxBytes(bytes, "BIG.MOX", 0);
+
+    EXPECT_EQ(record.Elements[254].Count, 255);
+    EXPECT_EQ(record.Elements[255].Count, 255);
+    EXPECT_EQ(record.Elements[256].Count, 1);
+    EXPECT_EQ(record.Elements[399].Count, 1);
+    ASSERT_EQ(host.messages.size(), 400u - 255u);
+    EXPECT_EQ(host.messages.front(), "Error in MOX file.  Around element number: 255");
+    EXPECT_EQ(record.Elements[300].Items[0].Number, 30000);
+    EXPECT_EQ(record.Elements[330].Items[0].Number, 0) << "33000 does not fit 16 bits";
+}
+
+TEST(MoxReader, AMissingFileGivesABlankRecordSilently) {
+    TempDir dir;
+    RecordingHost host;
+    for (const std::string& name : {std::string(), dir.file("NONE.MOX"), dir.path().string()}) {
+        const FileRecord record = READ_MOX(name, 2);
+        EXPECT_FALSE(record.Loaded);
+        EXPECT_EQ(record.NumNodes, 0);
+        EXPECT_TRUE(record.Elements.empty());
+    }
+    EXPECT_TRUE(host.messages.empty());
+}
+
+TEST(MoxReader, FindsTheTextureInTheModelsFolderWhateverItsCase) {
+    TempDir dir;
+    MoxBuilder builder;
+    builder.SetTexture("plane.tpc  ");
+    WriteFileBytes(dir.file("PLANEF.MOX"), builder.Build());
+    const std::string folder = dir.path().string() + "/";
+
+    RecordingTextureLoader loader;
+    RecordingHost host;
+    const FileRecord missing = READ_MOX(dir.file("PLANEF.MOX"), 4);
+    ASSERT_EQ(loader.requests.size(), 1u);
+    EXPECT_EQ(loader.requests[0].path, folder + "PLANE.PCX");
+    EXPECT_EQ(loader.requests[0].slot, 4);
+    EXPECT_EQ(missing.TextureID, 1);
+    EXPECT_EQ(missing.PointStep, 0.125f);
+
+    WriteFileBytes(dir.file("plane.pcx"), {});
+    READ_MOX(dir.file("PLANEF.MOX"), 0);
+    EXPECT_EQ(loader.requests[1].path, folder + "plane.pcx");
+
+    WriteFileBytes(dir.file("PLANE.PCX"), {});
+    READ_MOX(dir.file("PLANEF.MOX"), 0);
+    EXPECT_EQ(loader.requests[2].path, folder + "PLANE.PCX");
+    EXPECT_TRUE(host.messages.empty());
+
+    loader.answer = false;
+    const FileRecord refused = READ_MOX(dir.file("PLANEF.MOX"), 0);
+    EXPECT_EQ(host.messages,
+              (std::vector<std::string>{"Cannot load texture. Must be a PCX file!"}));
+    EXPECT_TRUE(refused.Loaded);
+}
+
+TEST(MoxReader, WithoutATextureHookLoadsNoTexture) {
+    const FileRecord record = ReadMoxBytes(MoxBuilder().Build(), "X.MOX", 0);
+    EXPECT_EQ(record.PointStep, 1.0f);
+    EXPECT_EQ(record.TextureID, 0);
+}

@@ -1,0 +1,146 @@
+#include "moxbuilder.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+#include <numeric>
+#include <stdexcept>
+
+namespace {
+
+void PutInt16(std::vector<uint8_t>& out, int value) {
+    out.push_back(static_cast<uint8_t>(value & 0xFF));
+    out.push_back(static_cast<uint8_t>((value >> 8) & 0xFF));
+}
+
+void PutInt32(std::vector<uint8_t>& out, int32_t value) {
+    const auto bits = static_cast<uint32_t>(value);
+    for (int shift = 0; shift < 32; shift += 8)
+        out.push_back(static_cast<uint8_t>((bits >> shift) & 0xFF));
+}
+
+} // namespace
+
+StreamBytes& StreamBytes::Prefix(uint8_t cod, uint8_t flag) {
+    return Raw({cod, flag});
+}
+
+StreamBytes& StreamBytes::Line(uint8_t node0, uint8_t node1, uint8_t colour) {
+    return Raw({1, node0, node1, colour});
+}
+
+StreamBytes& StreamBytes::Hardpoint(uint8_t code, uint8_t node) {
+    return Raw({2, code, node});
+}
+
+StreamBytes& StreamBytes::ColouredPoly(const std::vector<uint8_t>& nodes, uint8_t colour) {
+    Raw({3, static_cast<uint8_t>(nodes.size())});
+    Raw(nodes);
+    return Raw({colour});
+}
+
+StreamBytes& StreamBytes::GouraudPoly(const std::vector<std::array<uint8_t, 2>>& corners) {
+    Raw({4, static_cast<uint8_t>(corners.size())});
+    for (const auto& corner : corners)
+        Raw({corner[0], corner[1]});
+    return *this;
+}
+
+StreamBytes& StreamBytes::MappedPoly(uint8_t type, const std::vector<Corner>& corners, uint8_t att1,
+                                     uint8_t att2) {
+    Raw({type, static_cast<uint8_t>(corners.size())});
+    for (const Corner& corner : corners)
+        Raw({corner[0], corner[1], corner[2]});
+    return Raw({att1, att2});
+}
+
+StreamBytes& StreamBytes::Raw(const std::vector<uint8_t>& more) {
+    bytes.insert(bytes.end(), more.begin(), more.end());
+    return *this;
+}
+
+StreamBytes& StreamBytes::End() {
+    return Raw({kTypeNull});
+}
+
+void MoxBuilder::SetTexture(const std::string& name) {
+    texture.fill(0);
+    std::copy_n(name.begin(), std::min(name.size(), texture.size()), texture.begin());
+}
+
+std::vector<uint8_t> MoxBuilder::Build() const {
+    const int elements = numElements.value_or(static_cast<int16_t>(streams.size()));
+    std::vector<uint8_t> out;
+    PutInt16(out, radius);
+    out.insert(out.end(), texture.begin(), texture.end());
+    PutInt16(out, numParts.value_or(static_cast<int16_t>(parts.size() + 1)));
+    PutInt16(out, numNodes.value_or(static_cast<int16_t>(nodes.size())));
+    PutInt16(out, elements);
+    for (const Part& part : parts) {
+        out.push_back(part.Code);
+        out.push_back(part.Num);
+        PutInt16(out, part.Y);
+        PutInt16(out, part.Z);
+        PutInt16(out, part.X);
+    }
+    for (int i = 0; i < elements; ++i) {
+        const NRMRecord plane = i < static_cast<int>(planes.size()) ? planes[i] : NRMRecord{};
+        PutInt16(out, plane.Y);
+        PutInt16(out, plane.Z);
+        PutInt16(out, plane.X);
+        PutInt32(out, plane.D);
+        PutInt16(out, plane.F);
+    }
+    out.push_back(root[0]);
+    out.push_back(root[1]);
+    for (int i = 0; i < elements; ++i) {
+        const ChildPair pair =
+            i < static_cast<int>(children.size()) ? children[i] : ChildPair{kNoElement, kNoElement};
+        out.push_back(pair[0]);
+        out.push_back(pair[1]);
+    }
+    for (const Node& node : nodes) {
+        PutInt16(out, node.Y);
+        PutInt16(out, node.Z);
+        PutInt16(out, node.X);
+        PutInt16(out, node.B);
+    }
+
+    const size_t table = out.size();
+    out.resize(table + 2 * static_cast<size_t>(std::max(elements, 0)));
+    std::vector<int> order = streamOrder;
+    if (order.empty()) {
+        order.resize(streams.size());
+        std::iota(order.begin(), order.end(), 0);
+    }
+    std::map<int, size_t> placed;
+    for (const int element : order) {
+        out.insert(out.end(), gapBefore, gapByte);
+        placed[element] = out.size();
+        const auto& stream = streams.at(static_cast<size_t>(element));
+        out.insert(out.end(), stream.begin(), stream.end());
+    }
+    out.insert(out.end(), trailer.begin(), trailer.end());
+    for (int i = 0; i < elements; ++i) {
+        int offset = placed.count(i) != 0 ? static_cast<int>(placed[i]) : 0;
+        if (offsetOverrides.count(i) != 0)
+            offset = offsetOverrides.at(i);
+        out[table + 2 * static_cast<size_t>(i)] = static_cast<uint8_t>(offset & 0xFF);
+        out[table + 2 * static_cast<size_t>(i) + 1] = static_cast<uint8_t>((offset >> 8) & 0xFF);
+    }
+    return out;
+}
+
+void WriteFileBytes(const std::string& path, const std::vector<uint8_t>& bytes) {
+    std::ofstream out(path, std::ios::binary | std::ios::trunc);
+    out.write(reinterpret_cast<const char*>(bytes.data()),
+              static_cast<std::streamsize>(bytes.size()));
+    if (!out)
+        throw std::runtime_error("cannot write test file " + path);
+}
+
+std::vector<uint8_t> ReadFileBytes(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    return std::vector<uint8_t>(std::istreambuf_iterator<char>(in),
+                                std::istreambuf_iterator<char>());
+}

@@ -1,0 +1,179 @@
+// The JSON form of a model file: what it holds, that it carries a file through build unchanged,
+// and how build names a bad value.
+#include "moxbuilder.h"
+#include "moxjson.h"
+#include "moxreader.h"
+#include "moxwriter.h"
+#include "randommox.h"
+#include "recordinghost.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace {
+
+std::vector<uint8_t> Saved(const FileRecord& record) {
+    std::vector<uint8_t> bytes;
+    std::string problem;
+    EXPECT_TRUE(BuildMoxBytes(record, bytes, problem)) << problem;
+    return bytes;
+}
+
+MoxBuilder SmallModel() {
+    MoxBuilder builder;
+    builder.texture = {'p', 0xE9, '.', 't', 'p', 'c', 0, 0, 0, 0, 0, ' ', ' ', 0};
+    builder.parts = {Part{1, 2, 3, 4, 5}};
+    builder.nodes = {Node{1, 2, 3, 0}, Node{4, 5, 6, 1}, Node{7, 8, 9, 0}};
+    builder.streams = {
+        StreamBytes()
+            .Raw({0x94, 0x01, 0x05, 0x03, 0x00, 0x20, 0x40, 0x01, 0x70, 0x40, 0x02, 0x30, 0x08,
+                  0x00, 0x07})
+            .Line(0, 1, 7)
+            .GouraudPoly({{1, 9}, {2, 8}})
+            .Hardpoint(25, 2)
+            .End()
+            .bytes,
+        StreamBytes().Prefix(150, 2).End().bytes,
+    };
+    return builder;
+}
+
+Json SmallModelJson() {
+    return MoxToJson(ReadMoxBytes(SmallModel().Build(), "S.MOX", 0), {});
+}
+
+} // namespace
+
+TEST(MoxJson, HoldsEveryFieldInItsFixedForm) {
+    const Json json = SmallModelJson();
+    EXPECT_EQ(json["format"], "skylathe-mox/1");
+    EXPECT_EQ(json["texture"], std::string("p\xC3\xA9.tpc\0\0\0\0\0  \0", 15));
+    EXPECT_NE(json.dump().find(R"("texture":"pé.tpc\u0000)"), std::string::npos);
+    EXPECT_EQ(json["num_parts"], 2);
+    EXPECT_EQ(json["parts"][0], Json::parse(R"({"code":1,"num":2,"x":5,"y":3,"z":4})"));
+    EXPECT_EQ(json["nodes"][1], Json::parse(R"({"x":6,"y":4,"z":5,"b":1})"));
+    EXPECT_EQ(json["root"], Json::parse("[255,255]"));
+    EXPECT_EQ(json["children"][1], Json::parse("[255,255]"));
+    EXPECT_EQ(json["offsets"].size(), 2u);
+
+    const Json& items = json["elements"][0];
+    ASSERT_EQ(items.size(), 4u);
+    EXPECT_EQ(items[0], Json::parse(R"({"number":0,"cod":148,"flag":1,"type":5,"crn":3,
+        "nodes":[0,1,2],"xmap":[32,112,48],"ymap":[64,64,8],"att1":0,"att2":7})"));
+    EXPECT_EQ(items[1], Json::parse(R"({"number":1,"cod":0,"flag":0,"type":1,"crn":2,
+        "nodes":[0,1],"att1":7})"));
+    EXPECT_EQ(items[2], Json::parse(R"({"number":2,"cod":0,"flag":0,"type":4,"crn":2,
+        "nodes":[1,2],"xmap":[9,8]})"));
+    EXPECT_EQ(items[3], Json::parse(R"({"number":3,"cod":0,"flag":0,"type":2,"crn":1,
+        "nodes":[2],"att1":25})"));
+    EXPECT_EQ(json["elements"][1][0], Json::parse(R"({"number":100,"cod":150,"flag":2,
+        "type":255,"crn":0,"nodes":[]})"));
+    ASSERT_EQ(json["hardpoints"].size(), 8u);
+    EXPECT_EQ(json["hardpoints"][1], Json::parse(R"({"x":9,"y":7,"z":8,"b":0})"));
+    EXPECT_EQ(json["messages"], Json::array());
+}
+
+TEST(MoxJson, BuildWritesWhatResaveWrites) {
+    std::mt19937 random(99);
+    RandomMoxOptions options;
+    options.prefixedNulls = true;
+    for (int file = 0; file < 200; ++file) {
+        const FileRecord record = ReadMoxBytes(RandomMox(random, options).Build(), "R.MOX", 0);
+        const std::string text = MoxToJson(record, {"a message"}).dump(2);
+        FileRecord built;
+        std::string error;
+        ASSERT_TRUE(MoxFromJson(Json::parse(text), built, error)) << error;
+        ASSERT_EQ(Saved(built), Saved(record)) << "file " << file;
+    }
+
+    // A damaged file too: its blank entries and messages survive the trip.
+    MoxBuilder damaged;
+    damaged.streams = {StreamBytes().Raw(std::vector<uint8_t>(1100, 3)).bytes,
+                       StreamBytes().End().bytes};
+    RecordingHost host;
+    const FileRecord record = ReadMoxBytes(damaged.Build(), "D.MOX", 0);
+    const Json json = MoxToJson(record, host.messages);
+    EXPECT_EQ(json["messages"], Json::parse(R"(["Error in MOX file.  Around element number: 0",
+        "Error in MOX file.  Around element number: 1"])"));
+    FileRecord built;
+    std::string error;
+    ASSERT_TRUE(MoxFromJson(json, built, error)) << error;
+    EXPECT_EQ(built.Elements[1].Count, 256);
+    EXPECT_EQ(Saved(built), Saved(record));
+}
+
+TEST(MoxJson, RefusesABadValueNamingItsPath) {
+    struct Case {
+        std::function<void(Json&)> change;
+        std::string error;
+    };
+    const std::vector<Case> cases = {
+        {[](Json& j) { j["format"] = "skylathe-mox/2"; }, R"(format: must be "skylathe-mox/1")"},
+        {[](Json& j) { j.erase("radius"); }, "radius: missing"},
+        {[](Json& j) { j["radius"] = 40000; }, "radius: 40000 is out of range -32768 to 32767"},
+        {[](Json& j) { j["radius"] = 1.5; }, "radius: not an integer"},
+        {[](Json& j) { j["texture"] = "SHORT.TPC"; }, "texture: 9 characters, must be 14"},
+        {[](Json& j) {
+             j["texture"] = "\xE2\x82\xAC"
+                            "234567890123";
+         },
+         "texture: holds a character above U+00FF"},
+        {[](Json& j) { j["num_parts"] = 3; }, "parts: 1 entries, num_parts - 1 is 2"},
+        {[](Json& j) { j["parts"][0]["num"] = 256; }, "parts[0].num: 256 is out of range 0 to 255"},
+        {[](Json& j) { j["planes"][1]["d"] = 4294967296; },
+         "planes[1].d: 4294967296 is out of range -2147483648 to 2147483647"},
+        {[](Json& j) { j["root"] = Json::array({1}); }, "root: 1 entries, a root is a pair"},
+        {[](Json& j) {
+             j["children"][0] = Json::array({1, 2, 3});
+         },
+         "children[0]: not a pair"},
+        {[](Json& j) { j["num_nodes"] = 2; }, "nodes: 3 entries, num_nodes is 2"},
+        {[](Json& j) { j["nodes"][2].erase("b"); }, "nodes[2].b: missing"},
+        {[](Json& j) { j["num_elements"] = 1; }, "planes: 2 entries, num_elements is 1"},
+        {[](Json& j) { j["elements"][0][0]["nodes"].push_back(1); },
+         "elements[0][0].nodes: 4 entries, crn is 3"},
+        {[](Json& j) { j["elements"][0][0]["ymap"] = Json::array({1}); },
+         "elements[0][0].ymap: 1 entries, crn is 3"},
+        {[](Json& j) {
+             j["elements"][0][1]["nodes"] = Json::array({1, 2, 3});
+         },
+         "elements[0][1].nodes: 3 entries, type 1 has 2"},
+        {[](Json& j) { j["elements"][0][3]["nodes"] = Json::array(); },
+         "elements[0][3].nodes: 0 entries, type 2 has 1"},
+        {[](Json& j) { j["elements"][0][2].erase("xmap"); }, "elements[0][2].xmap: missing"},
+        {[](Json& j) { j["elements"][0][0].erase("att2"); }, "elements[0][0].att2: missing"},
+        {[](Json& j) { j["elements"][0][1]["cod"] = 3; },
+         "elements[0][1].cod: 3 is not 0 nor 7 to 254"},
+        {[](Json& j) { j["elements"][0][1]["type"] = 77; },
+         "elements[0][1].type: 77 needs a display code (cod)"},
+        {[](Json& j) { j["elements"][1][0]["nodes"] = Json::array({1}); },
+         "elements[1][0].nodes: 1 entries, type 255 has 0"},
+        {[](Json& j) { j["elements"][1] = 5; }, "elements[1]: not a list"},
+        {[](Json& j) { j["elements"][0][0] = Json::array(); }, "elements[0][0]: not an object"},
+        {[](Json& j) { j = Json::array(); }, "(top): not an object"},
+    };
+    for (const Case& c : cases) {
+        Json json = SmallModelJson();
+        c.change(json);
+        FileRecord record;
+        record.Radius = 77;
+        std::string error;
+        EXPECT_FALSE(MoxFromJson(json, record, error)) << c.error;
+        EXPECT_EQ(error, c.error);
+        EXPECT_EQ(record.Radius, 77) << "a refused form leaves the record alone";
+    }
+
+    // Derived keys may be left out; the counts stand as written.
+    Json json = SmallModelJson();
+    for (const char* key : {"offsets", "hardpoints", "messages"})
+        json.erase(key);
+    json["elements"][0][0].erase("number");
+    json["num_parts"] = -4;
+    json["parts"] = Json::array();
+    FileRecord record;
+    std::string error;
+    ASSERT_TRUE(MoxFromJson(json, record, error)) << error;
+    EXPECT_EQ(record.NumParts, -4);
+    EXPECT_EQ(ReadMoxBytes(Saved(record), "S.MOX", 0).NumParts, -4);
+}

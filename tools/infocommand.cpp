@@ -1,0 +1,94 @@
+// moxtool info: one short summary per model file.
+#include "commandsupport.h"
+#include "elementkind.h"
+#include "latin1text.h"
+#include "moxjson.h"
+
+#include <algorithm>
+#include <iostream>
+
+namespace {
+
+constexpr const char* kUsage = "moxtool info FILE.mox...";
+
+// The hardpoint codes of slots 1 to 6.
+constexpr uint8_t kSlotCodes[] = {25, 26, 27, 28, 29, 10};
+
+// The stored texture name without its trailing NUL or blank characters, as a JSON string.
+std::string TextureText(const TextureName& texture) {
+    std::string name(texture.begin(), texture.end());
+    name.erase(name.find_last_not_of(std::string(" \0", 2)) + 1);
+    return Json(Latin1ToUtf8(name)).dump();
+}
+
+int CountPiggybacks(const FileRecord& record) {
+    int total = 0;
+    for (int i = 0; i < record.NumElements && static_cast<size_t>(i) < record.Elements.size(); ++i)
+        total += std::max<int>(record.Elements[i].Count, 0);
+    return total;
+}
+
+// "slot 1 (code 25) x 10 y 20 z 30" for every slot a hardpoint of the file filled.
+std::string Hardpoints(const FileRecord& record) {
+    bool filled[std::size(kSlotCodes)] = {};
+    for (int i = 0; i < record.NumElements && static_cast<size_t>(i) < record.Elements.size();
+         ++i) {
+        const ElementList& list = record.Elements[i];
+        for (int j = 0; j < list.Count && static_cast<size_t>(j) < list.Items.size(); ++j) {
+            const Piggyback& item = list.Items[j];
+            const auto* code = std::find(std::begin(kSlotCodes), std::end(kSlotCodes), item.Att1);
+            if (item.Type == kTypeHardpoint && code != std::end(kSlotCodes) &&
+                !item.NodeList.empty() && item.NodeList[0] < record.Nodes.size())
+                filled[code - std::begin(kSlotCodes)] = true;
+        }
+    }
+    std::string text;
+    for (size_t s = 0; s < std::size(kSlotCodes); ++s) {
+        if (!filled[s])
+            continue;
+        const Node& node = record.HP[s + 1];
+        text += (text.empty() ? "" : "; ") + std::string("slot ") + std::to_string(s + 1) +
+                " (code " + std::to_string(kSlotCodes[s]) + ") x " + std::to_string(node.X) +
+                " y " + std::to_string(node.Y) + " z " + std::to_string(node.Z);
+    }
+    return text.empty() ? "none" : text;
+}
+
+int RunInfo(const Arguments& args) {
+    if (HelpRequested(args)) {
+        std::cout << "usage: " << kUsage
+                  << "\n\nOne summary per model file: radius, texture, counts, the hardpoints "
+                     "found and the messages of the read.\n";
+        return kExitOk;
+    }
+    if (args.empty() || std::any_of(args.begin(), args.end(), [](const std::string& word) {
+            return word.rfind("-", 0) == 0;
+        }))
+        return UsageError(kUsage);
+
+    int status = kExitOk;
+    for (const std::string& file : args) {
+        FileRecord record;
+        std::vector<std::string> messages;
+        std::string error;
+        if (!ReadModelFile(file, record, messages, error)) {
+            PrintError(error);
+            status = kExitFailure;
+            continue;
+        }
+        std::cout << file << ": radius " << record.Radius << ", texture "
+                  << TextureText(record.Texture) << ", " << record.NumParts << " parts, "
+                  << record.NumNodes << " nodes, " << record.NumElements << " elements, "
+                  << CountPiggybacks(record) << " piggybacks\n"
+                  << "  hardpoints: " << Hardpoints(record) << "\n";
+        for (const std::string& message : messages)
+            std::cout << "  message: " << message << "\n";
+    }
+    return status;
+}
+
+} // namespace
+
+ToolCommand InfoCommand() {
+    return {"info", "summarise model files: counts, texture, radius, hardpoints", RunInfo};
+}
