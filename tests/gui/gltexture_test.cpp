@@ -1,0 +1,186 @@
+// Textures made from PCX files, read back from GL: the pixels bottom-up, white for files that give
+// no picture, and the uploads that wait until a GL context is current.
+#include "gltexture.h"
+#include "gltextureloader.h"
+#include "model.h"
+#include "pcxreader.h"
+#include "pcxwriter.h"
+#include "recordinghost.h"
+#include "tempdir.h"
+#include "testpictures.h"
+
+#include <QGuiApplication>
+#include <QOffscreenSurface>
+#include <QOpenGLContext>
+
+#include <GL/gl.h>
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <memory>
+
+namespace {
+
+using Bytes = std::vector<uint8_t>;
+
+struct GLPicture {
+    int width = 0;
+    int height = 0;
+    Bytes rgb; // rows bottom-up, as GL keeps them
+};
+
+GLPicture ReadTexture(int32_t name) {
+    GLPicture picture;
+    glBindTexture(GL_TEXTURE_2D, static_cast<GLuint>(name));
+    glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, GL_TEXTURE_WIDTH, &picture.width);
+    glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, GL_TEXTURE_HEIGHT, &picture.height);
+    picture.rgb.resize(static_cast<std::size_t>(picture.width * picture.height * 3));
+    glPixelStorei(GL_PACK_ALIGNMENT, 1);
+    glGetTexImage(GL_TEXTURE_2D, 0, GL_RGB, GL_UNSIGNED_BYTE, picture.rgb.data());
+    return picture;
+}
+
+Bytes BottomUp(const PcxImage& picture) {
+    Bytes rgb;
+    for (int y = picture.height - 1; y >= 0; --y) {
+        const auto row = picture.rgb.begin() + static_cast<std::ptrdiff_t>(picture.RowBytes()) * y;
+        rgb.insert(rgb.end(), row, row + static_cast<std::ptrdiff_t>(picture.RowBytes()));
+    }
+    return rgb;
+}
+
+void WriteAll(const std::string& path, const Bytes& bytes) {
+    std::ofstream(path, std::ios::binary)
+        .write(reinterpret_cast<const char*>(bytes.data()),
+               static_cast<std::streamsize>(bytes.size()));
+}
+
+class GLTextureTest : public ::testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        static int argc = 1;
+        static char name[] = "gui_render_tests";
+        static char* argv[] = {name, nullptr};
+        application = new QGuiApplication(argc, argv);
+    }
+    static void TearDownTestSuite() {
+        delete application;
+        application = nullptr;
+    }
+
+    void SetUp() override {
+        QSurfaceFormat format;
+        format.setRenderableType(QSurfaceFormat::OpenGL);
+        format.setProfile(QSurfaceFormat::CompatibilityProfile);
+        surface = std::make_unique<QOffscreenSurface>();
+        surface->setFormat(format);
+        surface->create();
+        context = std::make_unique<QOpenGLContext>();
+        context->setFormat(format);
+        ASSERT_TRUE(context->create());
+        ASSERT_TRUE(context->makeCurrent(surface.get()));
+    }
+    void TearDown() override { context->doneCurrent(); }
+
+    static QGuiApplication* application;
+    std::unique_ptr<QOffscreenSurface> surface;
+    std::unique_ptr<QOpenGLContext> context;
+    TempDir folder;
+    RecordingHost host;
+};
+
+QGuiApplication* GLTextureTest::application = nullptr;
+
+TEST_F(GLTextureTest, UploadsEachPictureBottomUpUnderANewName) {
+    // Odd widths: the 256-colour texture is as wide as its rows (6), the true-colour one 7 wide.
+    const std::string palette8 = folder.file("wing.pcx");
+    const std::string trueColour = folder.file("tail.pcx");
+    WriteAll(palette8, EncodePcx8(5, 3, TestIndices(5, 3, 8), TestPalette()));
+    WriteAll(trueColour, EncodePcx24(7, 4, TestRgb(7, 4, 8)));
+
+    GLint alignment = 0;
+    glPixelStorei(GL_UNPACK_ALIGNMENT, 4);
+    std::vector<int32_t> names;
+    for (const std::string& path : {palette8, trueColour, palette8}) {
+        SCOPED_TRACE(path);
+        int32_t name = 0;
+        ASSERT_TRUE(LoadGLTexture(path, name, 2));
+        ASSERT_NE(name, 0);
+        names.push_back(name);
+
+        const PcxImage decoded = *ReadPcx(path).picture;
+        EXPECT_EQ(Texture(2)->Pixels(), decoded.rgb);
+        const GLPicture texture = ReadTexture(name);
+        EXPECT_EQ(texture.width, decoded.width);
+        EXPECT_EQ(texture.height, decoded.height);
+        EXPECT_EQ(texture.rgb, BottomUp(decoded));
+
+        GLint minFilter = 0;
+        GLint magFilter = 0;
+        glGetTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, &minFilter);
+        glGetTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, &magFilter);
+        EXPECT_EQ(minFilter, GL_LINEAR);
+        EXPECT_EQ(magFilter, GL_LINEAR);
+        glGetIntegerv(GL_UNPACK_ALIGNMENT, &alignment);
+        EXPECT_EQ(alignment, 4);
+    }
+    // Every load has its own name; the earlier ones are kept.
+    EXPECT_NE(names[0], names[2]);
+    EXPECT_EQ(ReadTexture(names[0]).rgb, ReadTexture(names[2]).rgb);
+    EXPECT_TRUE(host.messages.empty());
+}
+
+TEST_F(GLTextureTest, GivesAWhiteTextureForAFileThatIsNoPicture) {
+    Bytes deep = EncodePcx8(4, 4, TestIndices(4, 4, 1), TestPalette());
+    Bytes unmarked = deep;
+    deep[3] = 4;
+    unmarked[unmarked.size() - kPcxPaletteBlockBytes] = 0;
+    WriteAll(folder.file("deep.pcx"), deep);
+    WriteAll(folder.file("unmarked.pcx"), unmarked);
+
+    for (const std::string& path :
+         {folder.file("deep.pcx"), folder.file("unmarked.pcx"), folder.file("missing.pcx")}) {
+        SCOPED_TRACE(path);
+        int32_t name = 0;
+        EXPECT_TRUE(LoadGLTexture(path, name, 0));
+        const GLPicture texture = ReadTexture(name);
+        EXPECT_EQ(texture.width, 1);
+        EXPECT_EQ(texture.height, 1);
+        EXPECT_EQ(texture.rgb, (Bytes{255, 255, 255}));
+        EXPECT_FALSE(Texture(0)->HasPicture());
+    }
+    EXPECT_EQ(host.messages,
+              (std::vector<std::string>{
+                  "Sorry, can't load " + folder.file("deep.pcx") + "!",
+                  "The PCX that was passed didn't have a 256 colour palette! Can't read it!"}));
+
+    int32_t name = 0;
+    EXPECT_FALSE(LoadGLTexture(folder.file("deep.pcx"), name, kImageStoreCount));
+}
+
+TEST_F(GLTextureTest, UploadsTexturesLoadedBeforeTheContextWhenTheViewFlushesThem) {
+    const std::string path = folder.file("fuselage.pcx");
+    WriteAll(path, EncodePcx24(9, 5, TestRgb(9, 5, 3)));
+    GLTextureLoader loader;
+    SetTextureLoader(&loader);
+    const float granularity = loader.PointSizeGranularity();
+    EXPECT_GT(granularity, 0.0f);
+
+    model aircraft;
+    aircraft.Files.resize(kFileSlots);
+    context->doneCurrent();
+    EXPECT_EQ(loader.PointSizeGranularity(), granularity);
+    ASSERT_TRUE(CurrentTextureLoader()->LoadGLTexture(path, aircraft.Files[1].TextureID, 1));
+    EXPECT_EQ(aircraft.Files[1].TextureID, 0);
+    EXPECT_TRUE(Texture(1)->HasPicture());
+    EXPECT_TRUE(HasPendingTextures());
+
+    ASSERT_TRUE(context->makeCurrent(surface.get()));
+    FlushPendingTextures(aircraft);
+    EXPECT_FALSE(HasPendingTextures());
+    ASSERT_NE(aircraft.Files[1].TextureID, 0);
+    EXPECT_EQ(ReadTexture(aircraft.Files[1].TextureID).rgb, BottomUp(*ReadPcx(path).picture));
+    SetTextureLoader(nullptr);
+}
+
+} // namespace

@@ -1,0 +1,61 @@
+// The image stores that keep decoded textures for the texture window, and the lookup of the
+// texture files a model names.
+#include "imagepath.h"
+#include "imagestore.h"
+#include "tempdir.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+namespace {
+
+TEST(ImageStore, IsWhiteWhenEmptyAndTellsEachPixelOfItsPicture) {
+    ImageStore store;
+    EXPECT_FALSE(store.HasPicture());
+    EXPECT_EQ(store.Width(), 1);
+    EXPECT_EQ(store.Height(), 1);
+    EXPECT_EQ(store.Point(0, 0), kWhite);
+
+    PcxImage picture;
+    picture.width = 2;
+    picture.height = 2;
+    picture.rgb = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12};
+    store.SetPicture(picture);
+    EXPECT_TRUE(store.HasPicture());
+    EXPECT_EQ(store.Width(), 2);
+    EXPECT_EQ(store.Height(), 2);
+    EXPECT_EQ(store.Point(1, 0), 0x060504u);
+    EXPECT_EQ(store.Point(0, 1), 0x090807u);
+    EXPECT_EQ(store.Point(2, 0), kNoPixel);
+    EXPECT_EQ(store.Point(0, -1), kNoPixel);
+
+    picture.rgb.pop_back();
+    store.SetPicture(picture);
+    EXPECT_FALSE(store.HasPicture());
+    EXPECT_EQ(store.Point(0, 0), kWhite);
+
+    EXPECT_NE(Texture(0), nullptr);
+    EXPECT_NE(Texture(kThreeViewSlot), nullptr);
+    EXPECT_EQ(Texture(-1), nullptr);
+    EXPECT_EQ(Texture(kImageStoreCount), nullptr);
+}
+
+TEST(ImagePath, FindsAnUpperCasedNameWithWindowsSeparatorsAndTrailingBlanks) {
+    TempDir folder;
+    std::filesystem::create_directory(folder.path() / "Models");
+    const std::string file = (folder.path() / "Models" / "plane.pcx").string();
+    std::ofstream(file) << "x";
+
+    std::string named = folder.path().string() + "\\MODELS\\PLANE.PCX";
+    for (char& c : named)
+        c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+    named += std::string(" \0\0", 3);
+    EXPECT_EQ(ResolveImagePath(named), file);
+    EXPECT_EQ(ResolveImagePath(file), file);
+    EXPECT_EQ(ResolveImagePath(folder.file("Models/other.pcx")), "");
+    EXPECT_EQ(ResolveImagePath((folder.path() / "Models").string()), "");
+    EXPECT_EQ(ResolveImagePath(""), "");
+}
+
+} // namespace
