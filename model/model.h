@@ -2,9 +2,12 @@
 // the panels share.
 #pragma once
 
+#include "familynames.h"
 #include "filerecord.h"
 
 #include <cstdint>
+#include <iosfwd>
+#include <string>
 #include <vector>
 
 // What is loaded.
@@ -29,4 +32,34 @@ public:
 
     // Empty until a family or a project is loaded, then kFileSlots records.
     std::vector<FileRecord> Files;
+
+    // The project file (modelproject.cpp).
+    void SaveProject();
+    void LoadProject(const std::string& Filename);
+    // The family (modelfamily.cpp). Load rewrites `Filename` to the main file of the family and
+    // always returns false; callers load into a fresh model.
+    bool CheckMOX(int16_t num) const;
+    bool Load(std::string& Filename);
+    // "ONE" saves the current file, "ALL" every loaded file, any other text saves the current
+    // file under that path.
+    void Save(const std::string& Filename);
+    // The assembled model's extent along one axis (modelmeasures.cpp): `result` 0 the smallest
+    // coordinate, 1 the largest, any other the difference; `all` the whole family or the file
+    // m_currmox only.
+    int16_t GetSpan(bool all, int32_t result) const;
+    int16_t GetLength(bool all, int32_t result) const;
+    int16_t GetHeight(bool all, int32_t result) const;
+
+private:
+    // Reads `filename` into Files(slot) and notes the slot in the record.
+    void ReadSlot(const std::string& filename, int16_t slot);
+    // Clears the family list cbo_1_mox and fills it with the rows of `family`.
+    static void FillFamilyList(Family family);
+    // Treats one line of a project; the key "Notes" reads the rest of `in`. Returns false for a
+    // line that is not a project line.
+    bool TreatProjectLine(const std::string& text, std::istream& in);
+    // Brings the window back to its state after a load: first tab, main file, X axis, perspective
+    // view, no selection, pilot alive, gear down, wings whole. A model load also turns the
+    // element, piggyback, node and part spins back to 0.
+    void ResetWindow(bool resetSpins);
 };

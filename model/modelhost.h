@@ -2,6 +2,7 @@
 // the reset of the window after a load. The shell implements it; tests put a recorder in its place.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,40 @@ public:
     // A message box titled "Skylathe" (or `title`) with the given buttons; returns the answer.
     virtual MessageAnswer ShowMessage(const std::string& text, MessageButtons buttons,
                                       MessageIcon icon, const std::string& title) = 0;
+
+    // The window operations of a load, a save and a project load. A window that lacks one of
+    // them (a program without a window) does nothing there.
+
+    // Clears cbo_1_mox and fills it with `rows`.
+    virtual void SetFamilyList([[maybe_unused]] const std::vector<std::string>& rows) {}
+    // Selects row `row` of cbo_1_mox.
+    virtual void SetFamilyListRow([[maybe_unused]] int row) {}
+    // Ticks or clears chk_thismox ("Only Show This MOX?").
+    virtual void SetShowThisMoxOnly([[maybe_unused]] bool on) {}
+    virtual void SetWindowTitle([[maybe_unused]] const std::string& title) {}
+    // Selects the first tab of Tab_Edit and brings fra_edit(1) to the front.
+    virtual void ShowFirstEditTab() {}
+    // Sets the program-wide ModifyAxis (30000 X, 30001 Y, 30002 Z).
+    virtual void SetModifyAxis([[maybe_unused]] int32_t axis) {}
+    // Sets the value of the spin control `name` (upd_3_pb, upd_3_elem, upd_4_node, upd_2_part),
+    // which raises its change notification as a user's turn would.
+    virtual void SetSpinValue([[maybe_unused]] const std::string& name,
+                              [[maybe_unused]] int value) {}
+    // Runs mnu_v_persp_Click: the perspective view with its start camera.
+    virtual void ShowPerspectiveView() {}
+    // Gives toolbar button `button` ("Pilot", "LG", "Wing") the image `image` of the image list.
+    virtual void SetToolbarImage([[maybe_unused]] const std::string& button,
+                                 [[maybe_unused]] const std::string& image) {}
+    // Rebuilds the recent-file entries of the File and Project menus from the recent lists.
+    virtual void UpdateRecentMenus() {}
+    // Caption and boldness of lbl_help.
+    virtual std::string HelpCaption() { return {}; }
+    virtual void SetHelpCaption([[maybe_unused]] const std::string& caption) {}
+    virtual bool HelpBold() { return false; }
+    virtual void SetHelpBold([[maybe_unused]] bool bold) {}
+    // Lets pending window events run, so that the window repaints during a long load. The user's
+    // input stays queued: a menu must not replace the model while it is being loaded.
+    virtual void LetEventsRun() {}
 };
 
 // The host the model layer talks to. Without one set, messages are dropped and questions are

@@ -2,9 +2,12 @@
 // files and the open project.
 #pragma once
 
+#include "familynames.h"
+
 #include <array>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 struct Colour {
     int32_t red = 0;
@@ -43,6 +46,9 @@ struct ProgramState {
     Colour SkyColour{178, 229, 255};
     bool IncrementalSave = true;
     ProjectRecord ProjectData;
+    // The rows of the family list cbo_1_mox as the last load left them; a project writes
+    // "Type=MOX TMOD" when they are the four rows of an H family.
+    std::vector<std::string> FamilyListRows = InitialFamilyListRows();
 };
 
 // The one program-wide state.

@@ -14,12 +14,14 @@ public:
     CollectingHost(const CollectingHost&) = delete;
     CollectingHost& operator=(const CollectingHost&) = delete;
 
-    // Questions are answered No: a command never changes what it was not asked to.
+    // Questions are answered No unless the command sets `questionAnswer`: a command never
+    // changes what it was not asked to.
     MessageAnswer ShowMessage(const std::string& text, MessageButtons buttons, MessageIcon,
                               const std::string&) override {
         messages.push_back(text);
-        return buttons == MessageButtons::Ok ? MessageAnswer::Ok : MessageAnswer::No;
+        return buttons == MessageButtons::Ok ? MessageAnswer::Ok : questionAnswer;
     }
 
     std::vector<std::string> messages;
+    MessageAnswer questionAnswer = MessageAnswer::No;
 };

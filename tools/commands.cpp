@@ -9,6 +9,7 @@ const std::vector<ToolCommand>& ToolCommands() {
         ResaveCommand(),
         InfoCommand(),
         {"texture", "decode a PCX texture or drawing to PNG or PPM", RunTextureCommand},
+        ProjectCommand(),
     };
     return commands;
 }

@@ -17,6 +17,7 @@ ToolCommand DumpCommand();
 ToolCommand BuildCommand();
 ToolCommand ResaveCommand();
 ToolCommand InfoCommand();
+ToolCommand ProjectCommand();
 
 // Every command, in the order `moxtool --help` lists them.
 const std::vector<ToolCommand>& ToolCommands();

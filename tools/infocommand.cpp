@@ -1,6 +1,7 @@
 // moxtool info: one short summary per model file.
 #include "commandsupport.h"
 #include "elementkind.h"
+#include "familymeasures.h"
 #include "latin1text.h"
 #include "moxjson.h"
 
@@ -58,7 +59,8 @@ int RunInfo(const Arguments& args) {
     if (HelpRequested(args)) {
         std::cout << "usage: " << kUsage
                   << "\n\nOne summary per model file: radius, texture, counts, the hardpoints "
-                     "found and the messages of the read.\n";
+                     "found and the messages of the read. The main file of a family is loaded "
+                     "with its connected files, and the measures of the assembled model follow.\n";
         return kExitOk;
     }
     if (args.empty() || std::any_of(args.begin(), args.end(), [](const std::string& word) {
@@ -83,6 +85,8 @@ int RunInfo(const Arguments& args) {
                   << "  hardpoints: " << Hardpoints(record) << "\n";
         for (const std::string& message : messages)
             std::cout << "  message: " << message << "\n";
+        if (IsFamilyMainFile(file))
+            PrintFamilyMeasures(file, std::cout);
     }
     return status;
 }

@@ -1,6 +1,7 @@
 // Writes the starting corpus of every fuzz target: make_fuzz_seeds DIR writes DIR/fuzz_NAME/*.
 #include "pcxwriter.h"
 #include "testpictures.h"
+#include "projectseeds.h"
 
 #include <filesystem>
 #include <fstream>
@@ -66,5 +67,6 @@ int main(int argc, char** argv) {
         std::cerr << "make_fuzz_seeds: cannot write the seeds under " << root << "\n";
         return 1;
     }
+    WriteProjectSeeds(argv[1]);
     return 0;
 }

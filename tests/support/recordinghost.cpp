@@ -1,17 +1,126 @@
 #include "recordinghost.h"
 
-RecordingHost::RecordingHost() { SetHost(this); }
+namespace {
 
-RecordingHost::~RecordingHost() { SetHost(nullptr); }
+const char* IconName(MessageIcon icon) {
+    switch (icon) {
+    case MessageIcon::Information:
+        return "information";
+    case MessageIcon::Question:
+        return "question";
+    case MessageIcon::Exclamation:
+        return "exclamation";
+    case MessageIcon::None:
+        break;
+    }
+    return "plain";
+}
+
+const char* OnOff(bool on) {
+    return on ? "on" : "off";
+}
+
+constexpr const char* kEventsCall = "events";
+
+} // namespace
+
+RecordingHost::RecordingHost() {
+    SetHost(this);
+}
+
+RecordingHost::~RecordingHost() {
+    SetHost(nullptr);
+}
 
 MessageAnswer RecordingHost::ShowMessage(const std::string& text, MessageButtons buttons,
-                                         MessageIcon, const std::string&) {
+                                         MessageIcon icon, const std::string& title) {
     messages.push_back(text);
-    if (buttons == MessageButtons::Ok)
+    const bool question = buttons != MessageButtons::Ok;
+    calls.push_back(std::string(question ? "question " : "message ") + IconName(icon) +
+                    (title == "Skylathe" ? "" : " [" + title + "]") + ": " + text);
+    if (!question)
         return MessageAnswer::Ok;
     if (answers.empty())
         return MessageAnswer::No;
     const MessageAnswer answer = answers.front();
     answers.pop_front();
     return answer;
+}
+
+void RecordingHost::SetFamilyList(const std::vector<std::string>& rows) {
+    familyList = rows;
+    std::string joined;
+    for (const std::string& row : rows)
+        joined += (joined.empty() ? "" : "|") + row;
+    calls.push_back("family list: " + joined);
+}
+
+void RecordingHost::SetFamilyListRow(int row) {
+    calls.push_back("family row: " + std::to_string(row));
+}
+
+void RecordingHost::SetShowThisMoxOnly(bool on) {
+    calls.push_back(std::string("this mox only: ") + OnOff(on));
+}
+
+void RecordingHost::SetWindowTitle(const std::string& text) {
+    title = text;
+    calls.push_back("title: " + text);
+}
+
+void RecordingHost::ShowFirstEditTab() {
+    calls.emplace_back("first tab");
+}
+
+void RecordingHost::SetModifyAxis(int32_t axis) {
+    calls.push_back("modify axis: " + std::to_string(axis));
+}
+
+void RecordingHost::SetSpinValue(const std::string& name, int value) {
+    calls.push_back("spin " + name + ": " + std::to_string(value));
+}
+
+void RecordingHost::ShowPerspectiveView() {
+    calls.emplace_back("perspective view");
+}
+
+void RecordingHost::SetToolbarImage(const std::string& button, const std::string& image) {
+    calls.push_back("toolbar " + button + ": " + image);
+}
+
+void RecordingHost::UpdateRecentMenus() {
+    calls.emplace_back("recent menus");
+}
+
+std::string RecordingHost::HelpCaption() {
+    calls.emplace_back("get help caption");
+    return helpCaption;
+}
+
+void RecordingHost::SetHelpCaption(const std::string& caption) {
+    helpCaption = caption;
+    calls.push_back("help caption: " + caption);
+}
+
+bool RecordingHost::HelpBold() {
+    calls.emplace_back("get help bold");
+    return helpBold;
+}
+
+void RecordingHost::SetHelpBold(bool bold) {
+    helpBold = bold;
+    calls.push_back(std::string("help bold: ") + OnOff(bold));
+}
+
+void RecordingHost::LetEventsRun() {
+    calls.emplace_back(kEventsCall);
+}
+
+std::vector<std::string> RecordingHost::CallsWithoutEvents(std::size_t mark) const {
+    std::vector<std::string> result;
+    for (std::size_t i = mark; i < calls.size(); ++i) {
+        if (calls[i] != kEventsCall)
+            result.push_back(calls[i]);
+    }
+    return result;
 }

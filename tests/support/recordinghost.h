@@ -11,12 +11,42 @@ class RecordingHost : public ModelHost {
 public:
     RecordingHost();
     ~RecordingHost() override;
+    RecordingHost(const RecordingHost&) = delete;
+    RecordingHost& operator=(const RecordingHost&) = delete;
 
     MessageAnswer ShowMessage(const std::string& text, MessageButtons buttons, MessageIcon icon,
                               const std::string& title) override;
+    void SetFamilyList(const std::vector<std::string>& rows) override;
+    void SetFamilyListRow(int row) override;
+    void SetShowThisMoxOnly(bool on) override;
+    void SetWindowTitle(const std::string& title) override;
+    void ShowFirstEditTab() override;
+    void SetModifyAxis(int32_t axis) override;
+    void SetSpinValue(const std::string& name, int value) override;
+    void ShowPerspectiveView() override;
+    void SetToolbarImage(const std::string& button, const std::string& image) override;
+    void UpdateRecentMenus() override;
+    std::string HelpCaption() override;
+    void SetHelpCaption(const std::string& caption) override;
+    bool HelpBold() override;
+    void SetHelpBold(bool bold) override;
+    void LetEventsRun() override;
+
+    // The calls since `mark` that are not one of the pending-event runs, which a project load
+    // makes after every line.
+    std::vector<std::string> CallsWithoutEvents(std::size_t mark = 0) const;
 
     // Answers for the next questions, in order; when none is left a question is answered No.
     std::deque<MessageAnswer> answers;
     // Every message and question shown, in order.
     std::vector<std::string> messages;
+    // Every call, in order, as text: "title: Skylathe - PLANEF.MOX",
+    // "family list: MAIN MODEL (F)|A.MOX|...", "message information: Could not find project file".
+    std::vector<std::string> calls;
+
+    // What the window shows after the calls.
+    std::vector<std::string> familyList;
+    std::string title;
+    std::string helpCaption;
+    bool helpBold = false;
 };

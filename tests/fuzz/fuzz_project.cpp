@@ -1,0 +1,94 @@
+// Feeds arbitrary text to LoadProject as a .3vw file. What loads without an error must save and
+// load again to the same numbers.
+#include "model.h"
+#include "moxbuilder.h"
+#include "programstate.h"
+#include "recordinghost.h"
+#include "tempdir.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+
+namespace {
+
+// A folder holding a small family that the texts can name.
+struct Workspace {
+    Workspace() {
+        for (const char* name : {"SHIPF.MOX", "SHIPA.MOX", "TMOD1H.MOX", "TMOD1L.MOX"}) {
+            MoxBuilder model;
+            model.radius = 40;
+            model.nodes = {Node{10, -20, 300, 0}, Node{-10, 5, -60, 0}};
+            model.root = {0, kNoElement};
+            model.streams = {StreamBytes().Hardpoint(25, 1).Line(0, 1, 7).End().bytes};
+            WriteFileBytes(dir.file(name), model.Build());
+        }
+    }
+    TempDir dir;
+    std::string project = dir.file("fuzz.3vw");
+    std::string saved = dir.file("saved.3vw");
+};
+
+// Plain file names find the workspace's files while one input runs; the fuzzer's own relative
+// paths (corpus, findings) need the folder it was started in.
+class InFolder {
+public:
+    explicit InFolder(const std::filesystem::path& folder)
+        : previous_(std::filesystem::current_path()) {
+        std::filesystem::current_path(folder);
+    }
+    ~InFolder() { std::filesystem::current_path(previous_); }
+    InFolder(const InFolder&) = delete;
+    InFolder& operator=(const InFolder&) = delete;
+
+private:
+    std::filesystem::path previous_;
+};
+
+bool LoadedCleanly(const RecordingHost& host) {
+    return std::find(host.messages.begin(), host.messages.end(), "Error in Project File") ==
+               host.messages.end() &&
+           std::find(host.messages.begin(), host.messages.end(), "Could not find project file") ==
+               host.messages.end();
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    static Workspace workspace;
+    // Model and picture names stay inside the workspace: a text naming other folders could have
+    // the load read device files or anything else on the machine.
+    if (std::memchr(data, '/', size) != nullptr)
+        return 0;
+    std::ofstream(workspace.project, std::ios::binary | std::ios::trunc)
+        .write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
+
+    const InFolder inWorkspace(workspace.dir.path());
+    ResetProgramState();
+    RecordingHost host;
+    model m;
+    m.LoadProject(workspace.project);
+    for (bool all : {true, false}) {
+        for (int32_t result = 0; result < 3; ++result)
+            (void)(m.GetSpan(all, result) + m.GetLength(all, result) + m.GetHeight(all, result));
+    }
+    if (!LoadedCleanly(host) || m.Files.empty())
+        return 0;
+
+    const ProjectRecord first = Program().ProjectData;
+    Program().ProjectData.ProjectFile = workspace.saved;
+    m.SaveProject();
+    ResetProgramState();
+    model again;
+    again.LoadProject(workspace.saved);
+    const ProjectRecord& second = Program().ProjectData;
+    if (!LoadedCleanly(host) || second.Span != first.Span || second.Length != first.Length ||
+        second.Height != first.Height || second.TopLeftX != first.TopLeftX ||
+        second.TopLeftY != first.TopLeftY || second.TopLeftZ != first.TopLeftZ ||
+        second.Type != first.Type)
+        std::abort();
+    return 0;
+}
