@@ -24,7 +24,7 @@ struct Workspace {
             model.nodes = {Node{10, -20, 300, 0}, Node{-10, 5, -60, 0}};
             model.root = {0, kNoElement};
             model.streams = {StreamBytes().Hardpoint(25, 1).Line(0, 1, 7).End().bytes};
-            WriteFileBytes(dir.file(name), model.Build());
+            WriteTestFile(dir.file(name), model.Build());
         }
     }
     TempDir dir;

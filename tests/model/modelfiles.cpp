@@ -10,7 +10,7 @@ void WriteSmallModel(const std::string& path, int16_t radius) {
     model.nodes = {Node{3, 4, 5, 0}};
     model.root = {0, kNoElement};
     model.streams = {StreamBytes().Hardpoint(27, 0).End().bytes};
-    WriteFileBytes(path, model.Build());
+    WriteTestFile(path, model.Build());
 }
 
 int ReadRadius(const std::string& path) {

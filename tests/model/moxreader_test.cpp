@@ -290,7 +290,7 @@ TEST(MoxReader, FindsTheTextureInTheModelsFolderWhateverItsCase) {
     TempDir dir;
     MoxBuilder builder;
     builder.SetTexture("plane.tpc  ");
-    WriteFileBytes(dir.file("PLANEF.MOX"), builder.Build());
+    WriteTestFile(dir.file("PLANEF.MOX"), builder.Build());
     const std::string folder = dir.path().string() + "/";
 
     RecordingTextureLoader loader;
@@ -302,11 +302,11 @@ TEST(MoxReader, FindsTheTextureInTheModelsFolderWhateverItsCase) {
     EXPECT_EQ(missing.TextureID, 1);
     EXPECT_EQ(missing.PointStep, 0.125f);
 
-    WriteFileBytes(dir.file("plane.pcx"), {});
+    WriteTestFile(dir.file("plane.pcx"), {});
     READ_MOX(dir.file("PLANEF.MOX"), 0);
     EXPECT_EQ(loader.requests[1].path, folder + "plane.pcx");
 
-    WriteFileBytes(dir.file("PLANE.PCX"), {});
+    WriteTestFile(dir.file("PLANE.PCX"), {});
     READ_MOX(dir.file("PLANEF.MOX"), 0);
     EXPECT_EQ(loader.requests[2].path, folder + "PLANE.PCX");
     EXPECT_TRUE(host.messages.empty());

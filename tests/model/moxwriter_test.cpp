@@ -200,7 +200,7 @@ TEST(MoxWriter, AFailedSaveLeavesTheOldFileWhole) {
     TempDir dir;
     const std::string target = dir.file("PLANEF.MOX");
     const std::vector<uint8_t> old(100, 0x5A);
-    WriteFileBytes(target, old);
+    WriteTestFile(target, old);
     MoxBuilder builder;
     builder.nodes.resize(60);
     builder.streams = {StreamBytes().End().bytes};

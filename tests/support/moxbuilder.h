@@ -64,5 +64,5 @@ public:
 };
 
 // Writes `bytes` to `path`; throws when it cannot, which fails the calling test.
-void WriteFileBytes(const std::string& path, const std::vector<uint8_t>& bytes);
+void WriteTestFile(const std::string& path, const std::vector<uint8_t>& bytes);
 std::vector<uint8_t> ReadFileBytes(const std::string& path);

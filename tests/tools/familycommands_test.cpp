@@ -27,12 +27,12 @@ void WriteFamily(const TempDir& dir) {
     main.nodes = {Node{100, -20, 300, 0}, Node{-50, 10, -80, 0}};
     main.root = {0, kNoElement};
     main.streams = {StreamBytes().Hardpoint(25, 1).End().bytes};
-    WriteFileBytes(dir.file("PLANEF.MOX"), main.Build());
+    WriteTestFile(dir.file("PLANEF.MOX"), main.Build());
     MoxBuilder connected;
     connected.nodes = {Node{10, 5, 20, 0}};
     connected.root = {0, kNoElement};
     connected.streams = {StreamBytes().Line(0, 0, 3).End().bytes};
-    WriteFileBytes(dir.file("PLANEA.MOX"), connected.Build());
+    WriteTestFile(dir.file("PLANEA.MOX"), connected.Build());
 }
 
 } // namespace

@@ -70,7 +70,7 @@ MoxBuilder Model() {
 
 class MoxToolTest : public ::testing::Test {
 protected:
-    void SetUp() override { WriteFileBytes(model, Model().Build()); }
+    void SetUp() override { WriteTestFile(model, Model().Build()); }
 
     TempDir dir;
     const std::string model = dir.file("PLANEF.MOX");
@@ -156,7 +156,7 @@ TEST_F(MoxToolTest, InfoSummarisesEachFileAndNamesTheOnesItCannotRead) {
 
     MoxBuilder damaged;
     damaged.streams = {StreamBytes().Raw(std::vector<uint8_t>(1100, 3)).bytes};
-    WriteFileBytes(dir.file("BAD.MOX"), damaged.Build());
+    WriteTestFile(dir.file("BAD.MOX"), damaged.Build());
     const ToolRun bad = RunTool("info", {dir.file("BAD.MOX")});
     EXPECT_EQ(bad.status, kExitOk);
     EXPECT_NE(bad.out.find("  hardpoints: none\n  message: Error in MOX file.  Around element "
