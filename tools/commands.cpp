@@ -10,6 +10,7 @@ const std::vector<ToolCommand>& ToolCommands() {
         InfoCommand(),
         {"texture", "decode a PCX texture or drawing to PNG or PPM", RunTextureCommand},
         ProjectCommand(),
+        SampleCommand(),
     };
     return commands;
 }

@@ -37,8 +37,7 @@ std::vector<Vec3> RegularPolygon(Vec3 centre, Vec3 u, Vec3 v, double radius, int
     std::vector<Vec3> corners;
     for (int i = 0; i < count; ++i) {
         const double angle = startAngle + 2 * M_PI * i / count;
-        corners.push_back(centre + u * (radius * std::cos(angle)) +
-                          v * (radius * std::sin(angle)));
+        corners.push_back(centre + u * (radius * std::cos(angle)) + v * (radius * std::sin(angle)));
     }
     return corners;
 }
@@ -65,10 +64,10 @@ std::vector<OrientedFace> WheelFaces(Vec3 centre, double innerY, double outerY, 
                                      const std::vector<PixelPoint>& discMap, PixelPoint tread,
                                      TextureSize texture, FaceStyle style) {
     const int count = static_cast<int>(discMap.size());
-    const std::vector<Vec3> inner = RegularPolygon({centre.x, innerY, centre.z}, {1, 0, 0},
-                                                   {0, 0, 1}, radius, count, 0);
-    const std::vector<Vec3> outer = RegularPolygon({centre.x, outerY, centre.z}, {1, 0, 0},
-                                                   {0, 0, 1}, radius, count, 0);
+    const std::vector<Vec3> inner =
+        RegularPolygon({centre.x, innerY, centre.z}, {1, 0, 0}, {0, 0, 1}, radius, count, 0);
+    const std::vector<Vec3> outer =
+        RegularPolygon({centre.x, outerY, centre.z}, {1, 0, 0}, {0, 0, 1}, radius, count, 0);
     std::vector<OrientedFace> faces{{PinnedFace(inner, discMap, texture, style), {0, -1, 0}},
                                     {PinnedFace(outer, discMap, texture, style), {0, 1, 0}}};
     for (int k = 0; k < count; ++k) {

@@ -31,19 +31,19 @@ MapProjection SideProjection(bool rightSide) {
     // the right of the right view.
     if (rightSide)
         return MakeProjection(Axis::X, kSideRightRect.col + kSideRearX, -1, Axis::Z,
-                          kSideRightRect.row + kSideTopZ, -1);
+                              kSideRightRect.row + kSideTopZ, -1);
     return MakeProjection(Axis::X, kSideLeftRect.col - kSideFrontX, 1, Axis::Z,
-                      kSideLeftRect.row + kSideTopZ, -1);
+                          kSideLeftRect.row + kSideTopZ, -1);
 }
 
 MapProjection FuselageTopProjection() {
     return MakeProjection(Axis::X, kFuselageTopRect.col - kSideFrontX, 1, Axis::Y,
-                      kFuselageTopRect.row + kStripHalfWidth, -1);
+                          kFuselageTopRect.row + kStripHalfWidth, -1);
 }
 
 MapProjection FuselageBottomProjection() {
     return MakeProjection(Axis::X, kFuselageBottomRect.col - kSideFrontX, 1, Axis::Y,
-                      kFuselageBottomRect.row + kStripHalfWidth, 1);
+                          kFuselageBottomRect.row + kStripHalfWidth, 1);
 }
 
 MapProjection WingProjection(WingSurface surface, bool leftWing) {
@@ -51,23 +51,23 @@ MapProjection WingProjection(WingSurface surface, bool leftWing) {
     switch (surface) {
     case WingSurface::Top:
         return MakeProjection(Axis::X, kWingTopRect.col - kWingFrontX, 1, Axis::Y, kWingTopRect.row,
-                          spanSign);
+                              spanSign);
     case WingSurface::Bottom:
         return MakeProjection(Axis::X, kWingBottomRect.col - kWingFrontX, 1, Axis::Y,
-                          kWingBottomRect.row, spanSign);
+                              kWingBottomRect.row, spanSign);
     case WingSurface::TopTorn:
         return MakeProjection(Axis::X, kWingTopTornRect.col - kWingFrontX, 1, Axis::Y,
-                          kWingTopTornRect.row - kDamageY, spanSign);
+                              kWingTopTornRect.row - kDamageY, spanSign);
     case WingSurface::BottomTorn:
         break;
     }
     return MakeProjection(Axis::X, kWingBottomTornRect.col - kWingFrontX, 1, Axis::Y,
-                      kWingBottomTornRect.row - kDamageY, spanSign);
+                          kWingBottomTornRect.row - kDamageY, spanSign);
 }
 
 MapProjection WellOpenProjection(bool leftWing) {
     return MakeProjection(Axis::X, kWellOpenRect.col - kWellFrontX, 1, Axis::Y,
-                      kWellOpenRect.row - kWellInnerY, leftWing ? -1 : 1);
+                          kWellOpenRect.row - kWellInnerY, leftWing ? -1 : 1);
 }
 
 MapProjection TailProjection(bool bottom, bool leftHalf) {
@@ -86,4 +86,6 @@ MapProjection NoseArtProjection(bool rightSide) {
     return MakeProjection(Axis::X, centreCol, rightSide ? -1 : 1, Axis::Z, centreRow, -1);
 }
 
-PixelPoint SwatchOf(PaintColour colour) { return SwatchOf(kFighterSwatches, colour); }
+PixelPoint SwatchOf(PaintColour colour) {
+    return SwatchOf(kFighterSwatches, colour);
+}

@@ -78,13 +78,14 @@ void AddPropeller(RecordBuilder& builder) {
     const Vec3 axis{0, kPropellerPivot.y, kPropellerPivot.z};
     // The spinner shades from its tip to its base: a Gouraud Poly with a colour per corner.
     const Vec3 tip = axis + Vec3{kSpinnerTipX, 0, 0};
-    const std::vector<Vec3> ring = RegularPolygon(axis + Vec3{kSpinnerBaseX, 0, 0}, {0, 1, 0},
-                                                  {0, 0, 1}, kSpinnerRadius, kSpinnerCorners,
-                                                  M_PI / kSpinnerCorners);
+    const std::vector<Vec3> ring =
+        RegularPolygon(axis + Vec3{kSpinnerBaseX, 0, 0}, {0, 1, 0}, {0, 0, 1}, kSpinnerRadius,
+                       kSpinnerCorners, M_PI / kSpinnerCorners);
     for (int k = 0; k < kSpinnerCorners; ++k) {
         const Vec3& a = ring[k];
         const Vec3& b = ring[(k + 1) % kSpinnerCorners];
-        Face face{Style(kTypeGouraudPoly), body,
+        Face face{Style(kTypeGouraudPoly),
+                  body,
                   {FaceCorner{tip, kSpinnerLight}, FaceCorner{a, kSpinnerDark},
                    FaceCorner{b, kSpinnerDark}}};
         const Vec3 middle = (a + b) * 0.5;
@@ -138,7 +139,8 @@ void AddCanopy(RecordBuilder& builder) {
     const Section cockpit = SectionAt(kStations[kCockpitStation]);
     const Vec3 baseLeft = cockpit[2];
     const Vec3 baseRight = cockpit[1];
-    const std::vector<Vec3> screen{baseLeft, baseRight,
+    const std::vector<Vec3> screen{baseLeft,
+                                   baseRight,
                                    {kHoodFrontX, kCanopyTopHalfWidth, kCanopyTopZ},
                                    {kHoodFrontX, -kCanopyTopHalfWidth, kCanopyTopZ}};
     builder.AddFace(PlainFace(screen, SwatchOf(kGlass), kTexture, glass), Vec3{-1, 0, 1});
@@ -158,7 +160,8 @@ void AddCanopy(RecordBuilder& builder) {
     const Section rear = SectionAt(kStations[kFairingStation]);
     const std::vector<Vec3> fairingTop{{kHoodRearX, -kFairingTopHalfWidth, kFairingTopZ},
                                        {kHoodRearX, kFairingTopHalfWidth, kFairingTopZ},
-                                       rear[1], rear[2]};
+                                       rear[1],
+                                       rear[2]};
     builder.AddFace(ProjectedFace(fairingTop, FuselageTopProjection(), kTexture), Vec3{0.5, 0, 1});
     for (double side : {-1.0, 1.0}) {
         const std::vector<Vec3> flank{{kHoodRearX, side * kFairingBaseHalfWidth, kFairingBaseZ},
@@ -179,17 +182,18 @@ void AddPilotHead(RecordBuilder& builder, uint8_t flag, PaintColour face, PaintC
     const double z1 = kHeadTopZ;
     const PixelPoint faceMap = SwatchOf(face);
     const PixelPoint helmetMap = SwatchOf(helmet);
-    builder.AddFace(PlainFace({{x0, -w, z0}, {x0, w, z0}, {x0, w, z1}, {x0, -w, z1}}, faceMap,
-                              kTexture, style),
-                    Vec3{-1, 0, 0});
+    builder.AddFace(
+        PlainFace({{x0, -w, z0}, {x0, w, z0}, {x0, w, z1}, {x0, -w, z1}}, faceMap, kTexture, style),
+        Vec3{-1, 0, 0});
     builder.AddFace(PlainFace({{x1, -w, z0}, {x1, w, z0}, {x1, w, z1}, {x1, -w, z1}}, helmetMap,
                               kTexture, style),
                     Vec3{1, 0, 0});
     for (double side : {-1.0, 1.0}) {
-        builder.AddFace(PlainFace({{x0, side * w, z0}, {x1, side * w, z0}, {x1, side * w, z1},
-                                   {x0, side * w, z1}},
-                                  helmetMap, kTexture, style),
-                        Vec3{0, side, 0});
+        builder.AddFace(
+            PlainFace(
+                {{x0, side * w, z0}, {x1, side * w, z0}, {x1, side * w, z1}, {x0, side * w, z1}},
+                helmetMap, kTexture, style),
+            Vec3{0, side, 0});
     }
     builder.AddFace(PlainFace({{x0, -w, z1}, {x1, -w, z1}, {x1, w, z1}, {x0, w, z1}}, helmetMap,
                               kTexture, style),

@@ -106,8 +106,8 @@ constexpr double kTrailingEdgeX = 32;
 constexpr double kEdgeSweep = 1.0 / 8;
 constexpr double kDihedral = 1.0 / 16;
 constexpr double kWingHalfThickness = 3;
-constexpr double kNoseDepth = 3;         // the leading edge bevel ahead of the upper face
-constexpr double kTrailingWedge = 10;    // the trailing edge wedge behind the upper face
+constexpr double kNoseDepth = 3;      // the leading edge bevel ahead of the upper face
+constexpr double kTrailingWedge = 10; // the trailing edge wedge behind the upper face
 // The roundel on the upper face, in a square strip of the span.
 constexpr double kWingRoundelX = 10;
 constexpr double kWingRoundelY = 50;
@@ -152,8 +152,18 @@ constexpr Vec3 kAerialFront{20, 0, 27};
 constexpr Vec3 kAerialRear{92, 0, 47};
 
 // Wing geometry helpers.
-inline double LeadingEdgeX(double y) { return kLeadingEdgeX + y * kEdgeSweep; }
-inline double TrailingEdgeX(double y) { return kTrailingEdgeX - y * kEdgeSweep; }
-inline double WingMidZ(double y) { return y * kDihedral; }
-inline double UpperZ(double y) { return WingMidZ(y) + kWingHalfThickness; }
-inline double LowerZ(double y) { return WingMidZ(y) - kWingHalfThickness; }
+inline double LeadingEdgeX(double y) {
+    return kLeadingEdgeX + y * kEdgeSweep;
+}
+inline double TrailingEdgeX(double y) {
+    return kTrailingEdgeX - y * kEdgeSweep;
+}
+inline double WingMidZ(double y) {
+    return y * kDihedral;
+}
+inline double UpperZ(double y) {
+    return WingMidZ(y) + kWingHalfThickness;
+}
+inline double LowerZ(double y) {
+    return WingMidZ(y) - kWingHalfThickness;
+}

@@ -52,8 +52,8 @@ void AddTailplane(RecordBuilder& builder) {
             fixed = Mirrored(fixed);
             moving = Mirrored(moving);
         }
-        AddPlate(builder, fixed, {0, 0, 1}, TailProjection(false, left),
-                 TailProjection(true, left), 0);
+        AddPlate(builder, fixed, {0, 0, 1}, TailProjection(false, left), TailProjection(true, left),
+                 0);
         AddPlate(builder, moving, {0, 0, 1}, TailProjection(false, left),
                  TailProjection(true, left), elevator);
     }
@@ -69,9 +69,9 @@ void AddTailWheel(RecordBuilder& builder) {
             const std::vector<Vec3> disc =
                 RegularPolygon({kTailWheelX, side * kTailWheelHalfWidth, z}, {1, 0, 0}, {0, 0, 1},
                                kTailWheelRadius, kTailWheelCorners, 0);
-            builder.AddFace(PinnedFace(disc, tyreMap, kTexture,
-                                       Style(kTypeTexturedPoly, kCodeTailWheel, flag)),
-                            Vec3{0, side, 0});
+            builder.AddFace(
+                PinnedFace(disc, tyreMap, kTexture, Style(kTypeTexturedPoly, kCodeTailWheel, flag)),
+                Vec3{0, side, 0});
         }
     }
     // The fork shows only with the wheel down.

@@ -2,8 +2,8 @@
 
 #include "fighteratlas.h"
 #include "fighterdesign.h"
-#include "samplepalette.h"
 #include "pixelfont.h"
+#include "samplepalette.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,7 +13,11 @@ namespace {
 constexpr int kLetterScale = 2;
 constexpr double kHolePositions[][3] = {
     // x, y, radius in the frame of a wing file
-    {4, 66, 2.5}, {14, 72, 3}, {-2, 76, 2}, {8, 80, 1.5}, {18, 64, 1.5}};
+    {4, 66, 2.5},
+    {14, 72, 3},
+    {-2, 76, 2},
+    {8, 80, 1.5},
+    {18, 64, 1.5}};
 
 // Two-tone camouflage as a smooth pattern of model coordinates, so that neighbouring views agree.
 bool CamouflageGreen(double a, double b) {
@@ -21,7 +25,9 @@ bool CamouflageGreen(double a, double b) {
            0.15;
 }
 
-PaintColour Camouflage(double a, double b) { return CamouflageGreen(a, b) ? kCamoGreen : kCamoEarth; }
+PaintColour Camouflage(double a, double b) {
+    return CamouflageGreen(a, b) ? kCamoGreen : kCamoEarth;
+}
 
 void DrawModelLine(IndexedCanvas& canvas, const MapProjection& projection, Vec3 from, Vec3 to,
                    PaintColour colour) {
@@ -40,22 +46,21 @@ void DrawSideText(IndexedCanvas& canvas, const MapProjection& projection, const 
 
 void PaintSide(IndexedCanvas& canvas, bool right) {
     const MapProjection projection = SideProjection(right);
-    PaintRegion(canvas, right ? kSideRightRect : kSideLeftRect, projection,
-                [](double x, double z) {
-                    const bool band = x >= kBandFrontX && x <= kBandRearX;
-                    const bool flash = x >= kFinFlashFrontX && x <= kFinFlashRearX &&
-                                       z >= kFinFlashBottomZ && z <= kFinFlashTopZ;
-                    if (flash) {
-                        const double third = (kFinFlashRearX - kFinFlashFrontX) / 3;
-                        if (x < kFinFlashFrontX + third)
-                            return kRoundelRed;
-                        return x < kFinFlashFrontX + 2 * third ? kWhite : kRoundelBlue;
-                    }
-                    if (band)
-                        return kSky;
-                    const double line = kCamouflageLowZ + 2 * std::sin(x / 15.0);
-                    return z > line ? Camouflage(x, z) : kSky;
-                });
+    PaintRegion(canvas, right ? kSideRightRect : kSideLeftRect, projection, [](double x, double z) {
+        const bool band = x >= kBandFrontX && x <= kBandRearX;
+        const bool flash = x >= kFinFlashFrontX && x <= kFinFlashRearX && z >= kFinFlashBottomZ &&
+                           z <= kFinFlashTopZ;
+        if (flash) {
+            const double third = (kFinFlashRearX - kFinFlashFrontX) / 3;
+            if (x < kFinFlashFrontX + third)
+                return kRoundelRed;
+            return x < kFinFlashFrontX + 2 * third ? kWhite : kRoundelBlue;
+        }
+        if (band)
+            return kSky;
+        const double line = kCamouflageLowZ + 2 * std::sin(x / 15.0);
+        return z > line ? Camouflage(x, z) : kSky;
+    });
     // Panel lines at the joints of the cowling and the fuselage.
     for (int s = 1; s + 1 < kStationCount; ++s) {
         const FuselageStation& station = kStations[s];
@@ -63,8 +68,7 @@ void PaintSide(IndexedCanvas& canvas, bool right) {
         DrawModelLine(canvas, projection, {station.x, 0, station.centreZ + h},
                       {station.x, 0, station.centreZ - h}, kPanelLine);
     }
-    DrawModelLine(canvas, projection, {kRudderPivot.x, 0, 6}, {kRudderPivot.x, 0, 44},
-                  kPanelLine);
+    DrawModelLine(canvas, projection, {kRudderPivot.x, 0, 6}, {kRudderPivot.x, 0, 44}, kPanelLine);
     // Six exhaust stubs on the cowling.
     constexpr int kStubs = 6;
     const double pitch = (kExhaustRearX - kExhaustFrontX) / kStubs;
@@ -80,7 +84,9 @@ void PaintSide(IndexedCanvas& canvas, bool right) {
     const PixelPoint roundel = projection.PixelOf({kFuselageRoundelX, 0, kFuselageRoundelZ});
     const double r = kFuselageRoundelRadius;
     DrawRings(canvas, roundel,
-              {{r, kRoundelYellow}, {r * 0.83, kRoundelBlue}, {r * 0.55, kWhite},
+              {{r, kRoundelYellow},
+               {r * 0.83, kRoundelBlue},
+               {r * 0.55, kWhite},
                {r * 0.28, kRoundelRed}});
     const double letterTop = kFuselageRoundelZ + kGlyphHeight;
     const double twoLetters = 2 * kGlyphAdvance * kLetterScale - kLetterScale;
@@ -110,8 +116,8 @@ void PaintFuselageStrips(IndexedCanvas& canvas) {
 void DrawHoles(IndexedCanvas& canvas, const MapProjection& projection) {
     for (const auto& hole : kHolePositions) {
         const PixelPoint centre = projection.PixelOf({hole[0], hole[1], 0});
-        DrawRings(canvas, centre, {{hole[2] + 1.5, kScorch}, {hole[2] + 0.5, kBareMetal},
-                                   {hole[2], kBlack}});
+        DrawRings(canvas, centre,
+                  {{hole[2] + 1.5, kScorch}, {hole[2] + 0.5, kBareMetal}, {hole[2], kBlack}});
     }
     // A scorched, burning rim along the tear.
     const PixelPoint a = projection.PixelOf({TrailingEdgeX(kTearTrailingY), kTearTrailingY, 0});
@@ -127,8 +133,6 @@ void PaintWings(IndexedCanvas& canvas) {
     const MapProjection bottom = WingProjection(WingSurface::Bottom, false);
     PaintRegion(canvas, kWingTopRect, top, [](double x, double y) { return Camouflage(x, y); });
     PaintRegion(canvas, kWingBottomRect, bottom, [](double, double) { return kSky; });
-    DrawRings(canvas, top.PixelOf({kWingRoundelX, kWingRoundelY, 0}),
-              {{kWingRoundelRadius, kRoundelBlue}, {kWingRoundelRedRadius, kRoundelRed}});
     const std::pair<MapProjection, PaintColour> views[] = {{top, kPanelLine},
                                                            {bottom, kPanelLineLight}};
     for (const auto& [view, line] : views) {
@@ -140,6 +144,9 @@ void PaintWings(IndexedCanvas& canvas) {
         for (double y : kGunY)
             canvas.FillDisc(view.PixelOf({LeadingEdgeX(y) - 1.5, y, 0}), 1.2, kBlack);
     }
+    // The roundel goes over the panel lines.
+    DrawRings(canvas, top.PixelOf({kWingRoundelX, kWingRoundelY, 0}),
+              {{kWingRoundelRadius, kRoundelBlue}, {kWingRoundelRedRadius, kRoundelRed}});
     // The doors of the wheel well, shut.
     const std::vector<PixelPoint> doors{bottom.PixelOf({kWellFrontX, kWellInnerY, 0}),
                                         bottom.PixelOf({kWellRearX, kWellInnerY, 0}),
@@ -147,8 +154,7 @@ void PaintWings(IndexedCanvas& canvas) {
                                         bottom.PixelOf({kWellFrontX, kWellOuterY, 0})};
     canvas.DrawPolygonOutline(doors, kPanelLine);
     const double middleY = (kWellInnerY + kWellOuterY) / 2;
-    DrawModelLine(canvas, bottom, {kWellFrontX, middleY, 0}, {kWellRearX, middleY, 0},
-                  kPanelLine);
+    DrawModelLine(canvas, bottom, {kWellFrontX, middleY, 0}, {kWellRearX, middleY, 0}, kPanelLine);
 
     const MapProjection topTorn = WingProjection(WingSurface::TopTorn, false);
     const MapProjection bottomTorn = WingProjection(WingSurface::BottomTorn, false);
@@ -182,16 +188,14 @@ void PaintHoods(IndexedCanvas& canvas) {
         const PixelRect& rect = picture == PilotPicture::Alive  ? kHoodAliveRect
                                 : picture == PilotPicture::Dead ? kHoodDeadRect
                                                                 : kHoodEmptyRect;
-        PaintRegion(canvas, rect, view, [](double, double z) {
-            return z > kCanopyTopZ - 3 ? kGlassLight : kGlass;
-        });
+        PaintRegion(canvas, rect, view,
+                    [](double, double z) { return z > kCanopyTopZ - 3 ? kGlassLight : kGlass; });
         const double headX = (kHeadFrontX + kHeadRearX) / 2;
         const double headZ = (kHeadBottomZ + kHeadTopZ) / 2;
         if (picture == PilotPicture::Alive) {
             canvas.FillDisc(view.PixelOf({headX, 0, headZ + 1}), 3.5, kHelmet);
             canvas.FillRect(static_cast<int>(view.PixelOf({headX - 3.5, 0, 0}).col),
-                            static_cast<int>(view.PixelOf({0, 0, headZ + 1}).row), 4, 1,
-                            kGoggles);
+                            static_cast<int>(view.PixelOf({0, 0, headZ + 1}).row), 4, 1, kGoggles);
         } else if (picture == PilotPicture::Dead) {
             canvas.FillDisc(view.PixelOf({headX - 2, 0, headZ - 2}), 3.5, kDeadSkin);
             canvas.FillDisc(view.PixelOf({headX + 4, 0, headZ + 2}), 2.5, kBlood);

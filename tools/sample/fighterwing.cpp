@@ -15,14 +15,30 @@ constexpr int kRoundelCorners = 8;
 constexpr int kWheelCorners = 8;
 
 // The corners of the wing's section at span station y, from the leading edge around over the top.
-Vec3 Nose(double y) { return {LeadingEdgeX(y) - kNoseDepth, y, WingMidZ(y)}; }
-Vec3 UpperLead(double y) { return {LeadingEdgeX(y), y, UpperZ(y)}; }
-Vec3 UpperTrail(double y) { return {TrailingEdgeX(y), y, UpperZ(y)}; }
-Vec3 TrailPoint(double y) { return {TrailingEdgeX(y) + kTrailingWedge, y, WingMidZ(y)}; }
-Vec3 LowerTrail(double y) { return {TrailingEdgeX(y), y, LowerZ(y)}; }
-Vec3 LowerLead(double y) { return {LeadingEdgeX(y), y, LowerZ(y)}; }
-Vec3 OnUpper(double x, double y) { return {x, y, UpperZ(y)}; }
-Vec3 OnLower(double x, double y) { return {x, y, LowerZ(y)}; }
+Vec3 Nose(double y) {
+    return {LeadingEdgeX(y) - kNoseDepth, y, WingMidZ(y)};
+}
+Vec3 UpperLead(double y) {
+    return {LeadingEdgeX(y), y, UpperZ(y)};
+}
+Vec3 UpperTrail(double y) {
+    return {TrailingEdgeX(y), y, UpperZ(y)};
+}
+Vec3 TrailPoint(double y) {
+    return {TrailingEdgeX(y) + kTrailingWedge, y, WingMidZ(y)};
+}
+Vec3 LowerTrail(double y) {
+    return {TrailingEdgeX(y), y, LowerZ(y)};
+}
+Vec3 LowerLead(double y) {
+    return {LeadingEdgeX(y), y, LowerZ(y)};
+}
+Vec3 OnUpper(double x, double y) {
+    return {x, y, UpperZ(y)};
+}
+Vec3 OnLower(double x, double y) {
+    return {x, y, LowerZ(y)};
+}
 
 // A strip of a face between two span stations, from its front edge to its rear edge.
 using EdgePoint = Vec3 (*)(double);
@@ -61,8 +77,7 @@ private:
 
     void AddProjected(const std::vector<Vec3>& corners, WingSurface surface, Vec3 outward,
                       FaceStyle style = Style(kTypeTexturedPoly), int body = 0) {
-        Add(ProjectedFace(corners, WingProjection(surface, false), kTexture, style, body),
-            outward);
+        Add(ProjectedFace(corners, WingProjection(surface, false), kTexture, style, body), outward);
     }
 
     FaceStyle Whole() const { return Style(kTypeTexturedPoly, damageCode_, kWingWhole); }
@@ -77,12 +92,12 @@ private:
         const double front = kWingRoundelX - kWingRoundelSquare;
         const double rear = kWingRoundelX + kWingRoundelSquare;
         AddProjected(Strip(UpperLead, UpperTrail, 0, inner), WingSurface::Top, up);
-        AddProjected({UpperLead(inner), OnUpper(front, inner), OnUpper(front, outer),
-                      UpperLead(outer)},
-                     WingSurface::Top, up);
-        AddProjected({OnUpper(rear, inner), UpperTrail(inner), UpperTrail(outer),
-                      OnUpper(rear, outer)},
-                     WingSurface::Top, up);
+        AddProjected(
+            {UpperLead(inner), OnUpper(front, inner), OnUpper(front, outer), UpperLead(outer)},
+            WingSurface::Top, up);
+        AddProjected(
+            {OnUpper(rear, inner), UpperTrail(inner), UpperTrail(outer), OnUpper(rear, outer)},
+            WingSurface::Top, up);
         std::vector<Vec3> roundel;
         std::vector<Vec3> square;
         for (int k = 0; k < kRoundelCorners; ++k) {
@@ -102,8 +117,8 @@ private:
         AddProjected(roundel, WingSurface::Top, up);
         AddProjected(Strip(UpperLead, UpperTrail, kDamageY, kWingSpan), WingSurface::Top, up,
                      Whole());
-        AddProjected({UpperLead(kDamageY), UpperTrail(kDamageY),
-                      UpperTrail(kTearTrailingY), UpperLead(kTearLeadingY)},
+        AddProjected({UpperLead(kDamageY), UpperTrail(kDamageY), UpperTrail(kTearTrailingY),
+                      UpperLead(kTearLeadingY)},
                      WingSurface::TopTorn, up, Torn());
     }
 
@@ -144,8 +159,8 @@ private:
         AddProjected(Strip(Nose, UpperLead, 0, kDamageY), WingSurface::Top, frontUp);
         AddProjected(Strip(Nose, UpperLead, kDamageY, kWingSpan), WingSurface::Top, frontUp,
                      Whole());
-        AddProjected(Strip(Nose, UpperLead, kDamageY, kTearLeadingY), WingSurface::TopTorn,
-                     frontUp, Torn());
+        AddProjected(Strip(Nose, UpperLead, kDamageY, kTearLeadingY), WingSurface::TopTorn, frontUp,
+                     Torn());
         AddProjected(Strip(Nose, LowerLead, 0, kDamageY), WingSurface::Bottom, frontDown);
         AddProjected(Strip(Nose, LowerLead, kDamageY, kWingSpan), WingSurface::Bottom, frontDown,
                      Whole());
@@ -156,12 +171,12 @@ private:
                      rearUp, Whole());
         AddProjected(Strip(LowerTrail, TrailPoint, 0, kAileronInnerY), WingSurface::Bottom,
                      rearDown);
-        AddProjected(Strip(LowerTrail, TrailPoint, kAileronOuterY, kWingSpan),
-                     WingSurface::Bottom, rearDown, Whole());
+        AddProjected(Strip(LowerTrail, TrailPoint, kAileronOuterY, kWingSpan), WingSurface::Bottom,
+                     rearDown, Whole());
         const double y = kWingSpan;
-        Add(PlainFace({Nose(y), UpperLead(y), UpperTrail(y), TrailPoint(y), LowerTrail(y),
-                       LowerLead(y)},
-                      SwatchOf(kCamoGreen), kTexture, Whole()),
+        Add(PlainFace(
+                {Nose(y), UpperLead(y), UpperTrail(y), TrailPoint(y), LowerTrail(y), LowerLead(y)},
+                SwatchOf(kCamoGreen), kTexture, Whole()),
             Vec3{0, 1, 0});
     }
 
@@ -169,9 +184,9 @@ private:
     // outer panel when the wing is torn.
     void AddAileron() {
         const double middle = (kAileronInnerY + kAileronOuterY) / 2;
-        const int body = builder_.AddPart(kPartPitch, left_ ? kLeftAileronNum : kRightAileronNum,
-                                          Place(Vec3{TrailingEdgeX(middle), middle,
-                                                     std::round(WingMidZ(middle))}));
+        const int body = builder_.AddPart(
+            kPartPitch, left_ ? kLeftAileronNum : kRightAileronNum,
+            Place(Vec3{TrailingEdgeX(middle), middle, std::round(WingMidZ(middle))}));
         AddProjected(Strip(UpperTrail, TrailPoint, kAileronInnerY, kAileronOuterY),
                      WingSurface::Top, {0.3, 0, 1}, Whole(), body);
         AddProjected(Strip(LowerTrail, TrailPoint, kAileronInnerY, kAileronOuterY),

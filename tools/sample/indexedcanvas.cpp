@@ -75,8 +75,7 @@ void IndexedCanvas::FillDisc(PixelPoint centre, double radius, uint8_t colour) {
 }
 
 void IndexedCanvas::DrawLine(PixelPoint from, PixelPoint to, uint8_t colour) {
-    const double steps =
-        std::max({std::abs(to.col - from.col), std::abs(to.row - from.row), 1.0});
+    const double steps = std::max({std::abs(to.col - from.col), std::abs(to.row - from.row), 1.0});
     for (int i = 0; i <= static_cast<int>(std::ceil(steps)); ++i) {
         const double t = std::min(1.0, i / steps);
         Set(static_cast<int>(std::floor(from.col + t * (to.col - from.col))),
@@ -89,8 +88,7 @@ void IndexedCanvas::DrawPolygonOutline(const std::vector<PixelPoint>& corners, u
         DrawLine(corners[i], corners[(i + 1) % corners.size()], colour);
 }
 
-void IndexedCanvas::DrawText(int col, int row, const std::string& text, int scale,
-                             uint8_t colour) {
+void IndexedCanvas::DrawText(int col, int row, const std::string& text, int scale, uint8_t colour) {
     int left = col;
     for (char letter : text) {
         const Glyph glyph = GlyphOf(letter);

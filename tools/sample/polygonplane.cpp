@@ -16,15 +16,17 @@ Vec3 FrontArea(const std::vector<Vec3>& corners) {
     return -sum;
 }
 
-Vec3 FrontNormal(const std::vector<Vec3>& corners) { return Normalised(FrontArea(corners)); }
+Vec3 FrontNormal(const std::vector<Vec3>& corners) {
+    return Normalised(FrontArea(corners));
+}
 
 NRMRecord FixedPointPlane(Vec3 normal, Vec3 point) {
     NRMRecord plane;
     plane.X = static_cast<int16_t>(std::lround(normal.x * kNormalOne));
     plane.Y = static_cast<int16_t>(std::lround(normal.y * kNormalOne));
     plane.Z = static_cast<int16_t>(std::lround(normal.z * kNormalOne));
-    plane.D = static_cast<int32_t>(std::lround(plane.X * point.x + plane.Y * point.y +
-                                               plane.Z * point.z));
+    plane.D = static_cast<int32_t>(
+        std::lround(plane.X * point.x + plane.Y * point.y + plane.Z * point.z));
     return plane;
 }
 

@@ -35,7 +35,9 @@ constexpr uint8_t kStreamEnd = 255;
 // Hardpoint codes that fill the HP slots 1 to 6, in slot order.
 constexpr uint8_t kSlotCodes[] = {25, 26, 27, 28, 29, 10};
 
-int16_t Whole(double value) { return static_cast<int16_t>(std::lround(value)); }
+int16_t Whole(double value) {
+    return static_cast<int16_t>(std::lround(value));
+}
 
 bool FitsInt16(double value) {
     return std::lround(value) >= std::numeric_limits<int16_t>::min() &&
@@ -59,7 +61,9 @@ int EntryBytes(const Piggyback& item) {
     }
 }
 
-uint8_t FirstByte(const Piggyback& item) { return item.COD != 0 ? item.COD : item.Type; }
+uint8_t FirstByte(const Piggyback& item) {
+    return item.COD != 0 ? item.COD : item.Type;
+}
 
 } // namespace
 
@@ -200,8 +204,8 @@ bool RecordBuilder::Build(FileRecord& record, std::string& problem) const {
                 const Vec3 painted{double(Whole(corner.at.x)), double(Whole(corner.at.y)),
                                    double(Whole(corner.at.z))};
                 const Vec3 stored = painted - pivot;
-                const auto key = std::make_tuple(Whole(stored.y), Whole(stored.z),
-                                                 Whole(stored.x), int16_t(item.body));
+                const auto key = std::make_tuple(Whole(stored.y), Whole(stored.z), Whole(stored.x),
+                                                 int16_t(item.body));
                 auto found = nodeIndex.find(key);
                 if (found == nodeIndex.end())
                     found = nodeIndex.emplace(key, int(nodeIndex.size())).first;
@@ -239,15 +243,18 @@ bool RecordBuilder::Build(FileRecord& record, std::string& problem) const {
         const Vec3 normal = Dot(Normalised(fitted), group.normal) > kFittedAgreement
                                 ? Normalised(fitted)
                                 : group.normal;
-        record.NRM[e] = FixedPointPlane(
-            normal, Centroid(polygonPoints.empty() ? elementPoints[e] : polygonPoints));
+        // Lines and hardpoints go with the plane of their element's polygons, and so does its
+        // place in the tree.
+        if (!polygonPoints.empty())
+            elementPoints[e] = polygonPoints;
+        record.NRM[e] = FixedPointPlane(normal, Centroid(elementPoints[e]));
     }
 
     record.NumNodes = static_cast<int16_t>(nodeIndex.size());
     record.Nodes.assign(nodeIndex.size() + 1, Node{});
     for (const auto& [key, index] : nodeIndex)
-        record.Nodes[index] = Node{std::get<0>(key), std::get<1>(key), std::get<2>(key),
-                                   std::get<3>(key)};
+        record.Nodes[index] =
+            Node{std::get<0>(key), std::get<1>(key), std::get<2>(key), std::get<3>(key)};
 
     BuildSplitTree(elementPoints, record);
 
@@ -273,8 +280,11 @@ bool RecordBuilder::Build(FileRecord& record, std::string& problem) const {
             }
         }
         position += 1;
-        for (const Vec3& point : elementPoints[e])
-            radius = std::max(radius, Length(point));
+    }
+    for (int n = 0; n < record.NumNodes; ++n) {
+        const Node& node = record.Nodes[n];
+        radius = std::max(
+            radius, Length(Vec3{double(node.X), double(node.Y), double(node.Z)} + pivotOf(node.B)));
     }
     record.Radius = static_cast<int16_t>(std::ceil(radius));
     return true;

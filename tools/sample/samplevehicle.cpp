@@ -16,7 +16,8 @@ constexpr int kWheelCorners = 8;
 constexpr int kTankCorners = 8;
 // The faces half way between the flank and the top or bottom count as flanks.
 constexpr double kFlankTolerance = 1e-6;
-constexpr Vec3 kDirections[] = {{-1, 0, 0}, {1, 0, 0}, {0, -1, 0}, {0, 1, 0}, {0, 0, -1}, {0, 0, 1}};
+constexpr Vec3 kDirections[] = {{-1, 0, 0}, {1, 0, 0},  {0, -1, 0},
+                                {0, 1, 0},  {0, 0, -1}, {0, 0, 1}};
 
 void AddWheels(RecordBuilder& builder, Vec3 centre) {
     const std::vector<PixelPoint> tyreMap = RegularPixels(
@@ -36,8 +37,8 @@ bool BuildTruckMain(FileRecord& record, std::string& problem) {
     const Vec3 frameLow{kChassisFrontX, -kChassisHalfWidth, kChassisBottomZ};
     const Vec3 frameHigh{kChassisRearX, kChassisHalfWidth, kChassisTopZ};
     for (const Vec3& direction : kDirections)
-        builder.AddFace(PlainFace(BoxFace(frameLow, frameHigh, direction), TruckSwatch(kTruckRedDark),
-                                  kTexture),
+        builder.AddFace(PlainFace(BoxFace(frameLow, frameHigh, direction),
+                                  TruckSwatch(kTruckRedDark), kTexture),
                         direction);
     // The cab: its front and sides painted, its top and back in plain red.
     const Vec3 cabLow{kChassisFrontX, -kCabHalfWidth, kChassisTopZ};
@@ -52,9 +53,9 @@ bool BuildTruckMain(FileRecord& record, std::string& problem) {
         ProjectedFace(BoxFace(cabLow, cabHigh, {-1, 0, 0}), CabFrontProjection(), kTexture),
         Vec3{-1, 0, 0});
     for (const Vec3& direction : {Vec3{1, 0, 0}, Vec3{0, 0, 1}})
-        builder.AddFace(PlainFace(BoxFace(cabLow, cabHigh, direction), TruckSwatch(kTruckRed),
-                                  kTexture),
-                        direction);
+        builder.AddFace(
+            PlainFace(BoxFace(cabLow, cabHigh, direction), TruckSwatch(kTruckRed), kTexture),
+            direction);
     // A chrome bumper in a plain colour of the simulator's own.
     FaceStyle bumper = Style(kTypeColouredPoly);
     bumper.att1 = kChrome;
@@ -91,21 +92,21 @@ bool BuildTank(FileRecord& record, std::string& problem) {
         if (std::abs(outward.y) + kFlankTolerance >= std::abs(outward.z)) {
             // The flanks and the faces next to them carry the painted side, readable from
             // either side.
-            builder.AddFace(
-                ProjectedFace(band, TankSideProjection(outward.y > 0), kTexture), outward);
-        } else {
-            builder.AddFace(PlainFace(band, TruckSwatch(outward.z > 0 ? kTankSilver : kTankShade),
-                                      kTexture),
+            builder.AddFace(ProjectedFace(band, TankSideProjection(outward.y > 0), kTexture),
                             outward);
+        } else {
+            builder.AddFace(
+                PlainFace(band, TruckSwatch(outward.z > 0 ? kTankSilver : kTankShade), kTexture),
+                outward);
         }
     }
     // The ends shade from the rim to the middle: Gouraud Polys with a colour per corner.
-    for (const auto& [ring, direction] : {std::pair{front, Vec3{-1, 0, 0}},
-                                          std::pair{rear, Vec3{1, 0, 0}}}) {
+    for (const auto& [ring, direction] :
+         {std::pair{front, Vec3{-1, 0, 0}}, std::pair{rear, Vec3{1, 0, 0}}}) {
         Face end{Style(kTypeGouraudPoly), 0, {}};
         for (std::size_t k = 0; k < ring.size(); ++k)
-            end.corners.push_back(FaceCorner{ring[k], k < ring.size() / 2 ? kTankSilver
-                                                                          : kTankShade});
+            end.corners.push_back(
+                FaceCorner{ring[k], k < ring.size() / 2 ? kTankSilver : kTankShade});
         builder.AddFace(end, direction);
     }
     return builder.Build(record, problem);
@@ -136,10 +137,8 @@ bool BuildRearAxle(FileRecord& record, std::string& problem) {
 } // namespace
 
 bool BuildVehicleFamily(SampleFamily& family, std::string& problem) {
-    family = {{"TMOD1H.MOX", 0, {}},
-              {"TMOD1S.MOX", 1, {}},
-              {"TMOD1L.MOX", 2, {}},
-              {"TMOD1D.MOX", 3, {}}};
+    family = {
+        {"TMOD1H.MOX", 0, {}}, {"TMOD1S.MOX", 1, {}}, {"TMOD1L.MOX", 2, {}}, {"TMOD1D.MOX", 3, {}}};
     return BuildTruckMain(family[0].record, problem) && BuildTank(family[1].record, problem) &&
            BuildCabinet(family[2].record, problem) && BuildRearAxle(family[3].record, problem);
 }

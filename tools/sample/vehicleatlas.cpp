@@ -14,10 +14,11 @@ MapProjection CabFrontProjection() {
 }
 
 MapProjection TankSideProjection(bool right) {
-    return MakeProjection(Axis::X,
-                          right ? kTankSideRect.col + kTankRearX : kTankSideRect.col - kTankFrontX,
-                          right ? -1 : 1, Axis::Z, kTankSideRect.row + kTankAxisZ + kTankRadius,
-                          -1);
+    return MakeProjection(
+        Axis::X, right ? kTankSideRect.col + kTankRearX : kTankSideRect.col - kTankFrontX,
+        right ? -1 : 1, Axis::Z, kTankSideRect.row + kTankAxisZ + kTankRadius, -1);
 }
 
-PixelPoint TruckSwatch(PaintColour colour) { return SwatchOf(kTruckSwatches, colour); }
+PixelPoint TruckSwatch(PaintColour colour) {
+    return SwatchOf(kTruckSwatches, colour);
+}

@@ -57,8 +57,8 @@ void PaintTank(IndexedCanvas& canvas) {
         return kTankSilver;
     });
     const char* text = "FUEL";
-    const int width = static_cast<int>(std::strlen(text)) * kGlyphAdvance * kFuelLetterScale -
-                      kFuelLetterScale;
+    const int width =
+        static_cast<int>(std::strlen(text)) * kGlyphAdvance * kFuelLetterScale - kFuelLetterScale;
     // Centred on the flank, half way up the drum.
     const int top = static_cast<int>(side.PixelOf({0, 0, kTankAxisZ}).row) -
                     kGlyphHeight * kFuelLetterScale / 2;
