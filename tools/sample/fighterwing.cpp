@@ -83,6 +83,15 @@ private:
     FaceStyle Whole() const { return Style(kTypeTexturedPoly, damageCode_, kWingWhole); }
     FaceStyle Torn() const { return Style(kTypeTexturedPoly, damageCode_, kWingDamaged); }
 
+    // The strip of a face outboard of kDamageY, whole, or torn along the tear, which leaves its
+    // rear edge at `rearTearY`.
+    void AddOuterPanel(EdgePoint front, EdgePoint rear, WingSurface whole, WingSurface torn,
+                       Vec3 outward, double rearTearY) {
+        AddProjected(Strip(front, rear, kDamageY, kWingSpan), whole, outward, Whole());
+        AddProjected({front(kDamageY), rear(kDamageY), rear(rearTearY), front(kTearLeadingY)}, torn,
+                     outward, Torn());
+    }
+
     // The upper face: root panel, the roundel in a square surrounded by eight pieces, and the
     // outer panel, whole or torn.
     void AddUpperFace() {
@@ -115,11 +124,8 @@ private:
                          up);
         }
         AddProjected(roundel, WingSurface::Top, up);
-        AddProjected(Strip(UpperLead, UpperTrail, kDamageY, kWingSpan), WingSurface::Top, up,
-                     Whole());
-        AddProjected({UpperLead(kDamageY), UpperTrail(kDamageY), UpperTrail(kTearTrailingY),
-                      UpperLead(kTearLeadingY)},
-                     WingSurface::TopTorn, up, Torn());
+        AddOuterPanel(UpperLead, UpperTrail, WingSurface::Top, WingSurface::TopTorn, up,
+                      kTearTrailingY);
     }
 
     // The lower face: root panel, the strip with the wheel well, a middle panel and the outer
@@ -143,11 +149,8 @@ private:
             down);
         AddProjected(Strip(LowerLead, LowerTrail, kWellOuterY, kDamageY), WingSurface::Bottom,
                      down);
-        AddProjected(Strip(LowerLead, LowerTrail, kDamageY, kWingSpan), WingSurface::Bottom, down,
-                     Whole());
-        AddProjected({LowerLead(kDamageY), LowerTrail(kDamageY), LowerTrail(kTearTrailingY),
-                      LowerLead(kTearLeadingY)},
-                     WingSurface::BottomTorn, down, Torn());
+        AddOuterPanel(LowerLead, LowerTrail, WingSurface::Bottom, WingSurface::BottomTorn, down,
+                      kTearTrailingY);
     }
 
     // Leading edge bevels, trailing edge wedges and the tip; the outer parts go with the panel.
@@ -157,15 +160,11 @@ private:
         const Vec3 rearUp{0.3, 0, 1};
         const Vec3 rearDown{0.3, 0, -1};
         AddProjected(Strip(Nose, UpperLead, 0, kDamageY), WingSurface::Top, frontUp);
-        AddProjected(Strip(Nose, UpperLead, kDamageY, kWingSpan), WingSurface::Top, frontUp,
-                     Whole());
-        AddProjected(Strip(Nose, UpperLead, kDamageY, kTearLeadingY), WingSurface::TopTorn, frontUp,
-                     Torn());
+        AddOuterPanel(Nose, UpperLead, WingSurface::Top, WingSurface::TopTorn, frontUp,
+                      kTearLeadingY);
         AddProjected(Strip(Nose, LowerLead, 0, kDamageY), WingSurface::Bottom, frontDown);
-        AddProjected(Strip(Nose, LowerLead, kDamageY, kWingSpan), WingSurface::Bottom, frontDown,
-                     Whole());
-        AddProjected(Strip(Nose, LowerLead, kDamageY, kTearLeadingY), WingSurface::BottomTorn,
-                     frontDown, Torn());
+        AddOuterPanel(Nose, LowerLead, WingSurface::Bottom, WingSurface::BottomTorn, frontDown,
+                      kTearLeadingY);
         AddProjected(Strip(UpperTrail, TrailPoint, 0, kAileronInnerY), WingSurface::Top, rearUp);
         AddProjected(Strip(UpperTrail, TrailPoint, kAileronOuterY, kWingSpan), WingSurface::Top,
                      rearUp, Whole());
