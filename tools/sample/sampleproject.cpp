@@ -12,8 +12,8 @@ constexpr int16_t kProjectTypeMox = 1;
 constexpr const char* kNotes[] = {
     "Demo fighter made by moxtool sample.",
     "Main file PDEMOF.MOX: fuselage, propeller, canopy, pilot, tail and tail wheel.",
-    "PDEMOC.MOX: nose art at hardpoint 27. PDEMOE.MOX and PDEMOG.MOX: right and left wing at "
-    "hardpoints 28 and 29.",
+    "PDEMOC.MOX: nose art at hardpoint 27.",
+    "PDEMOE.MOX and PDEMOG.MOX: right and left wing at hardpoints 28 and 29.",
     "Try the gear, pilot and wing damage states, and the rendering sequence.",
 };
 
