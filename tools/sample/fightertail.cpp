@@ -5,8 +5,6 @@
 #include "fighterdesign.h"
 #include "samplecodes.h"
 
-#include <iterator>
-
 namespace {
 
 constexpr TextureSize kTexture{kFighterTextureSize, kFighterTextureSize};
@@ -29,8 +27,8 @@ template <std::size_t N> std::vector<Vec3> InPlanView(const Point2 (&outline)[N]
 // A flat plate painted on both sides: its front toward `normal` with `frontMap`, its back with
 // `backMap`.
 void AddPlate(RecordBuilder& builder, const std::vector<Vec3>& corners, Vec3 normal,
-              const MapProjection& frontMap, const MapProjection& backMap, int body,
-              FaceStyle style = Style(kTypeTexturedPoly)) {
+              const MapProjection& frontMap, const MapProjection& backMap, int body) {
+    const FaceStyle style = Style(kTypeTexturedPoly);
     builder.AddFace(ProjectedFace(corners, frontMap, kTexture, style, body), normal);
     builder.AddFace(ProjectedFace(corners, backMap, kTexture, style, body), -normal);
 }

@@ -65,6 +65,51 @@ uint8_t FirstByte(const Piggyback& item) {
     return item.COD != 0 ? item.COD : item.Type;
 }
 
+// The offsets a save gives and the hardpoints a load finds; false when a stream would start
+// beyond what an offset can hold.
+bool SetOffsetsAndHardpoints(FileRecord& record, std::string& problem) {
+    int position = kHeaderBytes + kPartBytes * (record.NumParts - 1) +
+                   (kPlaneBytes + kChildBytes + kOffsetBytes) * record.NumElements + kRootBytes +
+                   kNodeBytes * record.NumNodes;
+    record.Offsets.assign(record.NumElements + 1, 0);
+    for (int e = 0; e < record.NumElements; ++e) {
+        if (position > kMaxStreamOffset) {
+            problem = "the streams pass the 32767th byte";
+            return false;
+        }
+        record.Offsets[e] = static_cast<int16_t>(position);
+        const ElementList& list = record.Elements[e];
+        for (int j = 0; j < list.Count; ++j) {
+            const Piggyback& item = list.Items[j];
+            position += EntryBytes(item);
+            for (std::size_t slot = 0; slot < std::size(kSlotCodes); ++slot) {
+                if (item.Type == kTypeHardpoint && item.Att1 == kSlotCodes[slot])
+                    record.HP[slot + 1] = record.Nodes[item.NodeList[0]];
+            }
+        }
+        position += 1; // the stream's closing byte
+    }
+    return true;
+}
+
+Vec3 PivotOf(const FileRecord& record, int body) {
+    if (body == 0)
+        return {};
+    const Part& part = record.Parts[body - 1];
+    return {double(part.X), double(part.Y), double(part.Z)};
+}
+
+// The distance of the farthest node from the file's origin, rounded up.
+int16_t RadiusOf(const FileRecord& record) {
+    double radius = 0;
+    for (int n = 0; n < record.NumNodes; ++n) {
+        const Node& node = record.Nodes[n];
+        radius = std::max(radius, Length(Vec3{double(node.X), double(node.Y), double(node.Z)} +
+                                         PivotOf(record, node.B)));
+    }
+    return static_cast<int16_t>(std::ceil(radius));
+}
+
 } // namespace
 
 RecordBuilder::RecordBuilder(const std::string& textureName) {
@@ -160,12 +205,6 @@ bool RecordBuilder::Build(FileRecord& record, std::string& problem) const {
     record.PART.assign(groups.size() + 1, ChildPair{0, 0});
     record.Elements.assign(groups.size() + 1, ElementList{});
 
-    // Painted position of a corner: the node plus its part's pivot, in whole units.
-    auto pivotOf = [&](int body) {
-        return body == 0 ? Vec3{}
-                         : Vec3{double(parts_[body - 1].X), double(parts_[body - 1].Y),
-                                double(parts_[body - 1].Z)};
-    };
     std::map<std::tuple<int16_t, int16_t, int16_t, int16_t>, int> nodeIndex;
     std::vector<std::vector<Vec3>> elementPoints(groups.size());
 
@@ -181,7 +220,8 @@ bool RecordBuilder::Build(FileRecord& record, std::string& problem) const {
         Vec3 fitted;
         std::vector<Vec3> polygonPoints;
         for (const Item& item : group.items) {
-            const Vec3 pivot = pivotOf(item.body);
+            // A corner is painted at its node plus its part's pivot, in whole units.
+            const Vec3 pivot = PivotOf(record, item.body);
             Piggyback entry;
             entry.COD = item.style.cod;
             entry.Flag = item.style.cod != 0 ? item.style.flag : 0;
@@ -258,34 +298,6 @@ bool RecordBuilder::Build(FileRecord& record, std::string& problem) const {
 
     BuildSplitTree(elementPoints, record);
 
-    // The offsets a save gives, the hardpoints a load finds and the radius about the origin.
-    int position = kHeaderBytes + kPartBytes * (record.NumParts - 1) +
-                   (kPlaneBytes + kChildBytes + kOffsetBytes) * record.NumElements + kRootBytes +
-                   kNodeBytes * record.NumNodes;
-    record.Offsets.assign(groups.size() + 1, 0);
-    double radius = 0;
-    for (int e = 0; e < record.NumElements; ++e) {
-        if (position > kMaxStreamOffset) {
-            problem = "the streams pass the 32767th byte";
-            return false;
-        }
-        record.Offsets[e] = static_cast<int16_t>(position);
-        const ElementList& list = record.Elements[e];
-        for (int j = 0; j < list.Count; ++j) {
-            const Piggyback& item = list.Items[j];
-            position += EntryBytes(item);
-            for (std::size_t slot = 0; slot < std::size(kSlotCodes); ++slot) {
-                if (item.Type == kTypeHardpoint && item.Att1 == kSlotCodes[slot])
-                    record.HP[slot + 1] = record.Nodes[item.NodeList[0]];
-            }
-        }
-        position += 1;
-    }
-    for (int n = 0; n < record.NumNodes; ++n) {
-        const Node& node = record.Nodes[n];
-        radius = std::max(
-            radius, Length(Vec3{double(node.X), double(node.Y), double(node.Z)} + pivotOf(node.B)));
-    }
-    record.Radius = static_cast<int16_t>(std::ceil(radius));
-    return true;
+    record.Radius = RadiusOf(record);
+    return SetOffsetsAndHardpoints(record, problem);
 }
