@@ -8,8 +8,9 @@ const std::vector<ToolCommand>& ToolCommands() {
         BuildCommand(),
         ResaveCommand(),
         InfoCommand(),
-        ProjectCommand(),
         {"texture", "decode a PCX texture or drawing to PNG or PPM", RunTextureCommand},
+        ProjectCommand(),
+        SampleCommand(),
     };
     return commands;
 }

@@ -18,6 +18,7 @@ ToolCommand BuildCommand();
 ToolCommand ResaveCommand();
 ToolCommand InfoCommand();
 ToolCommand ProjectCommand();
+ToolCommand SampleCommand();
 
 // Every command, in the order `moxtool --help` lists them.
 const std::vector<ToolCommand>& ToolCommands();

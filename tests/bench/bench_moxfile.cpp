@@ -45,7 +45,7 @@ BENCHMARK(BM_ReadMoxBytes);
 
 void BM_READ_MOX(benchmark::State& state) {
     TempDir dir;
-    WriteFileBytes(dir.file("PLANEF.MOX"), Model());
+    WriteTestFile(dir.file("PLANEF.MOX"), Model());
     for (auto _ : state)
         benchmark::DoNotOptimize(READ_MOX(dir.file("PLANEF.MOX"), 0));
     state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * Model().size()));
