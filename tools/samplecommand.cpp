@@ -7,19 +7,17 @@
 
 namespace {
 
+constexpr const char* kDescription =
+    "Writes the demo models into DIR, creating it when needed: the fighter PDEMOF.MOX with its "
+    "connected files PDEMOC, PDEMOE and PDEMOG.MOX and its texture PDEMO.PCX, the project "
+    "PDEMO.3VW with its 3-view drawings, and the fuel truck TMOD1H.MOX with TMOD1S, TMOD1L and "
+    "TMOD1D.MOX and its texture TMOD1.PCX. Existing files of these names are replaced.";
 constexpr const char* kUsage = "moxtool sample DIR";
 
 int RunSample(const Arguments& args) {
-    if (HelpRequested(args)) {
-        std::cout << "usage: " << kUsage
-                  << "\n\nWrites the demo models into DIR, creating it when needed: the fighter "
-                     "PDEMOF.MOX with its\nconnected files PDEMOC, PDEMOE and PDEMOG.MOX and its "
-                     "texture PDEMO.PCX, the project\nPDEMO.3VW with its 3-view drawings, and the "
-                     "fuel truck TMOD1H.MOX with TMOD1S, TMOD1L\nand TMOD1D.MOX and its texture "
-                     "TMOD1.PCX. Existing files of these names are replaced.\n";
+    if (ShowHelp(args, kUsage, kDescription))
         return kExitOk;
-    }
-    if (args.size() != 1 || args[0].rfind("-", 0) == 0)
+    if (args.size() != 1 || !NoOptions(args))
         return UsageError(kUsage);
     std::vector<std::string> written;
     std::string problem;

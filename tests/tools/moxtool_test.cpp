@@ -151,7 +151,9 @@ TEST_F(MoxToolTest, InfoSummarisesEachFileAndNamesTheOnesItCannotRead) {
                                 ": radius 512, texture \"plane.tpc\", 1 parts, 2 nodes, 2 "
                                 "elements, 3 piggybacks\n  hardpoints: slot 6 (code 10) x 6 y 4 "
                                 "z 5\n";
-    EXPECT_EQ(info.out, summary + summary);
+    // PLANEF.MOX is the main file of a family: the family's lines follow each summary.
+    ASSERT_EQ(info.out.find(summary), 0u);
+    EXPECT_NE(info.out.find(summary, summary.size()), std::string::npos);
     EXPECT_EQ(info.err, "moxtool: " + dir.file("NONE.MOX") + ": no such file\n");
 
     MoxBuilder damaged;
