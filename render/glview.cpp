@@ -1,6 +1,7 @@
 #include "glview.h"
 
 #include "currentmodel.h"
+#include "gltexture.h"
 #include "oglgraphics.h"
 #include "orthocamera.h"
 #include "viewsettings.h"
@@ -32,7 +33,13 @@ void GLView::resizeGL(int width, int height) {
     }
 }
 
+// Textures of models loaded before the context stood, or while it was not current, reach GL here.
+void GLView::initializeGL() {
+    FlushPendingTextures(CurrentModel());
+}
+
 void GLView::paintGL() {
+    FlushPendingTextures(CurrentModel());
     OGL().RenderFrame();
     ++frameCount_;
 }

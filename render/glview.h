@@ -20,6 +20,7 @@ public:
     int64_t FrameCount() const { return frameCount_; }
 
 protected:
+    void initializeGL() override;
     void resizeGL(int width, int height) override;
     void paintGL() override;
 

@@ -1,5 +1,7 @@
 #include "commandline.h"
 
+#include "currentmodel.h"
+
 std::string CommandLine(int argc, const char* const* argv) {
     std::string line;
     for (int i = 1; i < argc; ++i) {
@@ -10,5 +12,7 @@ std::string CommandLine(int argc, const char* const* argv) {
     return line;
 }
 
-// The family load opens the file here; until it is in, the named model is not opened.
-void OpenModelFromCommandLine(const std::string&) {}
+void OpenModelFromCommandLine(const std::string& line) {
+    std::string name = line;
+    CurrentModel().Load(name);
+}

@@ -6,6 +6,7 @@
 #include "glview.h"
 #include "modelhost.h"
 #include "oglgraphics.h"
+#include "perspectivecamera.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -141,5 +142,16 @@ void frm_main::closeEvent(QCloseEvent* event) {
         event->ignore();
 }
 
-// Saving the loaded files comes with the family save; until then nothing is written.
-void frm_main::mnu_f_saveall_Click() {}
+void frm_main::mnu_f_saveall_Click() {
+    CurrentModel().Save("ALL");
+}
+
+void frm_main::mnu_v_persp_Click() {
+    ResetPerspectiveCamera(CurrentModel());
+    if (OGL().MakeCurrent()) {
+        const qreal ratio = glView->devicePixelRatio();
+        OGL().ReSizeGLScene(static_cast<int>(glView->width() * ratio),
+                            static_cast<int>(glView->height() * ratio));
+    }
+    glView->update();
+}

@@ -24,6 +24,8 @@ public:
     bool Form_Unload();
     // Rebuilds the recent entries of the Model and Project menus from the recent lists.
     void UpdateRecentMenus();
+    // The perspective view with its fixed camera; every load ends with it.
+    void mnu_v_persp_Click();
 
     QMenu* mnu_file = nullptr;
     QAction* mnu_f_saveall = nullptr;

@@ -1,6 +1,10 @@
 #include "qtmodelhost.h"
 
+#include "mainwindow.h"
+#include "viewsettings.h"
+
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 
 namespace {
@@ -64,4 +68,58 @@ MessageAnswer QtModelHost::ShowMessage(const std::string& text, MessageButtons b
     default:
         return AnswerWithoutButton(buttons);
     }
+}
+
+void QtModelHost::SetShowThisMoxOnly(bool on) {
+    View().chk_thismox = on;
+}
+
+void QtModelHost::SetWindowTitle(const std::string& title) {
+    if (window_ != nullptr)
+        window_->setWindowTitle(QString::fromStdString(title));
+}
+
+void QtModelHost::ShowFirstEditTab() {
+    View().CurrentTab = 1;
+}
+
+void QtModelHost::SetModifyAxis(int32_t axis) {
+    View().ModifyAxis = axis;
+}
+
+void QtModelHost::ShowPerspectiveView() {
+    if (window_ != nullptr)
+        window_->mnu_v_persp_Click();
+}
+
+void QtModelHost::UpdateRecentMenus() {
+    if (window_ != nullptr)
+        window_->UpdateRecentMenus();
+}
+
+std::string QtModelHost::HelpCaption() {
+    return window_ != nullptr ? window_->lbl_help->text().toStdString() : std::string();
+}
+
+void QtModelHost::SetHelpCaption(const std::string& caption) {
+    if (window_ != nullptr)
+        window_->lbl_help->setText(QString::fromStdString(caption));
+}
+
+bool QtModelHost::HelpBold() {
+    return window_ != nullptr && window_->lbl_help->font().bold();
+}
+
+void QtModelHost::SetHelpBold(bool bold) {
+    if (window_ == nullptr)
+        return;
+    QFont font = window_->lbl_help->font();
+    font.setBold(bold);
+    window_->lbl_help->setFont(font);
+}
+
+// A project load lets the window repaint between its lines; the user's clicks and keys wait, so
+// that no menu can replace the model while it is still loading.
+void QtModelHost::LetEventsRun() {
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }

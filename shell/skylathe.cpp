@@ -3,6 +3,7 @@
 #include "commandline.h"
 #include "configfile.h"
 #include "currentmodel.h"
+#include "gltextureloader.h"
 #include "glview.h"
 #include "mainwindow.h"
 #include "oglgraphics.h"
@@ -12,7 +13,7 @@
 #include <QApplication>
 #include <QEventLoop>
 
-std::unique_ptr<frm_main> StartUp(const std::string& commandLine) {
+std::unique_ptr<frm_main> StartUp(const std::string& commandLine, QtModelHost* windowHost) {
     OGL().bRunning = false;
     ReplaceCurrentModel();
     // The clear colour of Initialise comes from the configuration.
@@ -20,6 +21,8 @@ std::unique_ptr<frm_main> StartUp(const std::string& commandLine) {
     View().ViewMode = kPerspectiveView;
 
     auto window = std::make_unique<frm_main>();
+    if (windowHost != nullptr)
+        windowHost->AttachWindow(window.get());
     window->Form_Load();
     // The view's GL surface is a native window, made when the main window is shown; its context
     // follows at once, so showing comes before Initialise.
@@ -63,12 +66,15 @@ int Main(int argc, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false);
     QtModelHost host;
     SetHost(&host);
+    GLTextureLoader textures;
+    SetTextureLoader(&textures);
 
     // The application has taken its own options out of the arguments by now.
-    std::unique_ptr<frm_main> window = StartUp(CommandLine(argc, argv));
+    std::unique_ptr<frm_main> window = StartUp(CommandLine(argc, argv), &host);
     const bool contextStood = OGL().bRunning;
     RunMainLoop(*window);
     ShutDown(std::move(window));
+    SetTextureLoader(nullptr);
     SetHost(nullptr);
     return contextStood ? 0 : 1;
 }

@@ -5,11 +5,14 @@
 #include <string>
 
 class frm_main;
+class QtModelHost;
 
 // Brings the program up: the open model, the configuration, the main window, the GL context of
 // its view, then the model named by `commandLine` (when not empty). bRunning tells whether the
 // GL context stands.
-std::unique_ptr<frm_main> StartUp(const std::string& commandLine);
+// The window's changes of loads and saves go to `windowHost` when one is given.
+std::unique_ptr<frm_main> StartUp(const std::string& commandLine,
+                                  QtModelHost* windowHost = nullptr);
 // The main loop: window events, with the view repainted continuously, until the closing
 // sequence clears bRunning. Returns at once when bRunning is false already.
 void RunMainLoop(frm_main& window);

@@ -8,8 +8,8 @@
 #include "testpictures.h"
 
 #include <filesystem>
-#include <random>
 #include <iostream>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -85,9 +85,10 @@ int main(int argc, char** argv) {
     const fs::path root = argv[1];
     fs::create_directories(root);
     if (!WriteMoxSeeds(root) || !WritePcxSeeds(root / "fuzz_pcx")) {
-        std::cerr << "make_fuzz_seeds: cannot write the seeds under " << root << "
-";
-        return 1;
+        std::cerr << "make_fuzz_seeds: cannot write the seeds under " << root
+                  << "
+                     ";
+            return 1;
     }
     WriteProjectSeeds(argv[1]);
     return 0;

@@ -21,13 +21,16 @@ constexpr int kFrameWaitMilliseconds = 10000;
 void EditorTest::SetUp() {
     ResetProgramState();
     ResetViewSettings();
-    window_ = StartUp("");
+    SetTextureLoader(&textures);
+    window_ = StartUp("", &windowHost);
+    host.windowSide = &windowHost;
     ASSERT_TRUE(OGL().bRunning) << "the GL view has no context";
     ASSERT_TRUE(WaitForFrames(1));
 }
 
 void EditorTest::TearDown() {
     ShutDown(std::move(window_));
+    SetTextureLoader(nullptr);
 }
 
 GLView& EditorTest::Surface() {

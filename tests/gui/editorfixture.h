@@ -2,7 +2,9 @@
 // a RecordingHost, and reads pixels back from its GL view.
 #pragma once
 
+#include "gltextureloader.h"
 #include "mainwindow.h"
+#include "qtmodelhost.h"
 #include "recordinghost.h"
 
 #include <QColor>
@@ -32,7 +34,11 @@ protected:
     // The view's pixels as the display shows them, after the last buffer swap.
     QImage GrabShownFrame();
 
+    // Messages and questions are answered by `host`; the window's changes of a load go on to
+    // the real window through `windowHost`, and textures reach GL as in the program.
     RecordingHost host;
+    QtModelHost windowHost;
+    GLTextureLoader textures;
 
 private:
     std::unique_ptr<frm_main> window_;

@@ -53,67 +53,97 @@ void RecordingHost::SetFamilyList(const std::vector<std::string>& rows) {
     for (const std::string& row : rows)
         joined += (joined.empty() ? "" : "|") + row;
     calls.push_back("family list: " + joined);
+    if (windowSide != nullptr)
+        windowSide->SetFamilyList(rows);
 }
 
 void RecordingHost::SetFamilyListRow(int row) {
     calls.push_back("family row: " + std::to_string(row));
+    if (windowSide != nullptr)
+        windowSide->SetFamilyListRow(row);
 }
 
 void RecordingHost::SetShowThisMoxOnly(bool on) {
     calls.push_back(std::string("this mox only: ") + OnOff(on));
+    if (windowSide != nullptr)
+        windowSide->SetShowThisMoxOnly(on);
 }
 
 void RecordingHost::SetWindowTitle(const std::string& text) {
     title = text;
     calls.push_back("title: " + text);
+    if (windowSide != nullptr)
+        windowSide->SetWindowTitle(text);
 }
 
 void RecordingHost::ShowFirstEditTab() {
     calls.emplace_back("first tab");
+    if (windowSide != nullptr)
+        windowSide->ShowFirstEditTab();
 }
 
 void RecordingHost::SetModifyAxis(int32_t axis) {
     calls.push_back("modify axis: " + std::to_string(axis));
+    if (windowSide != nullptr)
+        windowSide->SetModifyAxis(axis);
 }
 
 void RecordingHost::SetSpinValue(const std::string& name, int value) {
     calls.push_back("spin " + name + ": " + std::to_string(value));
+    if (windowSide != nullptr)
+        windowSide->SetSpinValue(name, value);
 }
 
 void RecordingHost::ShowPerspectiveView() {
     calls.emplace_back("perspective view");
+    if (windowSide != nullptr)
+        windowSide->ShowPerspectiveView();
 }
 
 void RecordingHost::SetToolbarImage(const std::string& button, const std::string& image) {
     calls.push_back("toolbar " + button + ": " + image);
+    if (windowSide != nullptr)
+        windowSide->SetToolbarImage(button, image);
 }
 
 void RecordingHost::UpdateRecentMenus() {
     calls.emplace_back("recent menus");
+    if (windowSide != nullptr)
+        windowSide->UpdateRecentMenus();
 }
 
 std::string RecordingHost::HelpCaption() {
     calls.emplace_back("get help caption");
+    if (windowSide != nullptr)
+        helpCaption = windowSide->HelpCaption();
     return helpCaption;
 }
 
 void RecordingHost::SetHelpCaption(const std::string& caption) {
     helpCaption = caption;
     calls.push_back("help caption: " + caption);
+    if (windowSide != nullptr)
+        windowSide->SetHelpCaption(caption);
 }
 
 bool RecordingHost::HelpBold() {
     calls.emplace_back("get help bold");
+    if (windowSide != nullptr)
+        helpBold = windowSide->HelpBold();
     return helpBold;
 }
 
 void RecordingHost::SetHelpBold(bool bold) {
     helpBold = bold;
     calls.push_back(std::string("help bold: ") + OnOff(bold));
+    if (windowSide != nullptr)
+        windowSide->SetHelpBold(bold);
 }
 
 void RecordingHost::LetEventsRun() {
     calls.emplace_back(kEventsCall);
+    if (windowSide != nullptr)
+        windowSide->LetEventsRun();
 }
 
 std::vector<std::string> RecordingHost::CallsWithoutEvents(std::size_t mark) const {

@@ -44,6 +44,10 @@ public:
     // "family list: MAIN MODEL (F)|A.MOX|...", "message information: Could not find project file".
     std::vector<std::string> calls;
 
+    // When set, the window's side of every call but messages and questions goes on to this host
+    // as well, so that GUI tests see a real window change while answering from a script.
+    ModelHost* windowSide = nullptr;
+
     // What the window shows after the calls.
     std::vector<std::string> familyList;
     std::string title;
