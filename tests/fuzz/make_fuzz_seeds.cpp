@@ -85,10 +85,8 @@ int main(int argc, char** argv) {
     const fs::path root = argv[1];
     fs::create_directories(root);
     if (!WriteMoxSeeds(root) || !WritePcxSeeds(root / "fuzz_pcx")) {
-        std::cerr << "make_fuzz_seeds: cannot write the seeds under " << root
-                  << "
-                     ";
-            return 1;
+        std::cerr << "make_fuzz_seeds: cannot write the seeds under " << root << "\n";
+        return 1;
     }
     WriteProjectSeeds(argv[1]);
     return 0;
