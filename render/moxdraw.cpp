@@ -47,7 +47,8 @@ struct Position {
 
 bool AddWord(int16_t& sum, int16_t addend) {
     const int result = static_cast<int>(sum) + addend;
-    if (result < std::numeric_limits<int16_t>::min() || result > std::numeric_limits<int16_t>::max())
+    if (result < std::numeric_limits<int16_t>::min() ||
+        result > std::numeric_limits<int16_t>::max())
         return false;
     sum = static_cast<int16_t>(result);
     return true;
@@ -244,7 +245,8 @@ void DrawPiggyback(const FileRecord& record, const Piggyback& item, int16_t numb
 // of 100 or more names a piggyback of a later element, as the selection does.
 void DrawInStoredOrder(const FileRecord& record, const Node& displacement,
                        const DrawSettings& settings) {
-    const int elements = std::min<int>(record.NumElements, static_cast<int>(record.Elements.size()));
+    const int elements =
+        std::min<int>(record.NumElements, static_cast<int>(record.Elements.size()));
     for (int element = 0; element < elements; ++element) {
         const ElementList& list = record.Elements[element];
         const int count = std::min<int>(list.Count, static_cast<int>(list.Items.size()));

@@ -67,8 +67,8 @@ int TestFile::AddElement(std::vector<Piggyback> items) {
 }
 
 Piggyback Polygon(uint8_t type, const std::vector<uint8_t>& nodes, uint8_t cod, uint8_t flag) {
-    static const std::array<std::array<uint8_t, 2>, 4> kSquareMap{{{0, 255}, {0, 0}, {255, 0},
-                                                                   {255, 255}}};
+    static const std::array<std::array<uint8_t, 2>, 4> kSquareMap{
+        {{0, 255}, {0, 0}, {255, 0}, {255, 255}}};
     Piggyback item;
     item.Type = type;
     item.COD = cod;

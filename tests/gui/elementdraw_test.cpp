@@ -28,7 +28,9 @@ bool Near(const Rgb& a, const Rgb& b) {
 
 Rgb SkyPixel() {
     const Colour& sky = Program().SkyColour;
-    const auto eightBits = [](int value) { return static_cast<int>(std::lround(value / 256.0 * 255)); };
+    const auto eightBits = [](int value) {
+        return static_cast<int>(std::lround(value / 256.0 * 255));
+    };
     return {eightBits(sky.red), eightBits(sky.green), eightBits(sky.blue)};
 }
 

@@ -48,8 +48,7 @@ TEST_F(EditorTest, TheSampleFighterIsAssembledAndTextured) {
     for (const Landmark& mark : landmarks) {
         const QPoint at = OnScreen(mark.x, mark.y, mark.z);
         const Rgb seen = PixelAt(frame, at.x(), at.y());
-        EXPECT_TRUE(Near(seen, mark.colour))
-            << mark.what << " at " << at.x() << "," << at.y() << " is "
-            << ::testing::PrintToString(seen);
+        EXPECT_TRUE(Near(seen, mark.colour)) << mark.what << " at " << at.x() << "," << at.y()
+                                             << " is " << ::testing::PrintToString(seen);
     }
 }
