@@ -3,6 +3,7 @@
 // GL was given.
 #pragma once
 
+#include "editorfixture.h"
 #include "filerecord.h"
 
 #include <QPoint>
@@ -47,6 +48,9 @@ struct PrimitiveCount {
 // Paints one frame in GL feedback mode and counts what reached the rasteriser: culled faces and
 // hidden piggybacks do not count; an outline counts as lines.
 PrimitiveCount CountPrimitives();
+
+// True when each component of `a` lies within `tolerance` of that of `b`.
+bool Near(const Rgb& a, const Rgb& b, int tolerance);
 
 // A texture of one colour, made in the current context.
 int32_t SolidTexture(uint8_t red, uint8_t green, uint8_t blue);

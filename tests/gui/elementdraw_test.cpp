@@ -11,7 +11,6 @@
 #include <GL/gl.h>
 
 #include <cmath>
-#include <cstdlib>
 #include <limits>
 
 namespace {
@@ -21,9 +20,7 @@ constexpr uint8_t kCodePilot = 146;
 constexpr int kColourTolerance = 6;
 
 bool Near(const Rgb& a, const Rgb& b) {
-    return std::abs(a.red - b.red) <= kColourTolerance &&
-           std::abs(a.green - b.green) <= kColourTolerance &&
-           std::abs(a.blue - b.blue) <= kColourTolerance;
+    return Near(a, b, kColourTolerance);
 }
 
 Rgb SkyPixel() {

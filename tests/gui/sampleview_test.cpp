@@ -5,19 +5,12 @@
 #include "editorfixture.h"
 #include "oglgraphics.h"
 
-#include <cstdlib>
 #include <string>
 
 namespace {
 
 // Texture colours are sampled with linear filters, so a pixel next to the expected one may blend.
 constexpr int kTextureTolerance = 24;
-
-bool Near(const Rgb& a, const Rgb& b) {
-    return std::abs(a.red - b.red) <= kTextureTolerance &&
-           std::abs(a.green - b.green) <= kTextureTolerance &&
-           std::abs(a.blue - b.blue) <= kTextureTolerance;
-}
 
 struct Landmark {
     const char* what;
@@ -48,7 +41,8 @@ TEST_F(EditorTest, TheSampleFighterIsAssembledAndTextured) {
     for (const Landmark& mark : landmarks) {
         const QPoint at = OnScreen(mark.x, mark.y, mark.z);
         const Rgb seen = PixelAt(frame, at.x(), at.y());
-        EXPECT_TRUE(Near(seen, mark.colour)) << mark.what << " at " << at.x() << "," << at.y()
-                                             << " is " << ::testing::PrintToString(seen);
+        EXPECT_TRUE(Near(seen, mark.colour, kTextureTolerance))
+            << mark.what << " at " << at.x() << "," << at.y() << " is "
+            << ::testing::PrintToString(seen);
     }
 }
