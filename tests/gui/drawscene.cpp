@@ -18,6 +18,7 @@ constexpr float kCameraDistance = -100.0f;
 constexpr size_t kFeedbackFloats = 1 << 20;
 constexpr int kFeedbackVertexFloats = 3; // GL_3D
 constexpr int kTextureSide = 4;
+constexpr size_t kSelectionEntries = 1 << 16;
 
 } // namespace
 
@@ -164,6 +165,26 @@ PrimitiveCount CountPrimitives() {
         }
     }
     return count;
+}
+
+std::set<unsigned> HitNames() {
+    std::vector<GLuint> buffer(kSelectionEntries);
+    std::set<unsigned> names;
+    if (!OGL().MakeCurrent())
+        return names;
+    glSelectBuffer(static_cast<GLsizei>(buffer.size()), buffer.data());
+    glRenderMode(GL_SELECT);
+    OGL().RenderFrame();
+    const GLint hits = glRenderMode(GL_RENDER);
+    // Each hit: the number of names, the nearest and farthest depth, then the names.
+    size_t at = 0;
+    for (GLint hit = 0; hit < hits && at < buffer.size(); ++hit) {
+        const GLuint count = buffer[at];
+        at += 3;
+        for (GLuint name = 0; name < count && at < buffer.size(); ++name)
+            names.insert(buffer[at++]);
+    }
+    return names;
 }
 
 int32_t SolidTexture(uint8_t red, uint8_t green, uint8_t blue) {

@@ -9,6 +9,7 @@
 #include <QPoint>
 
 #include <cstdint>
+#include <set>
 #include <vector>
 
 // A loaded file under construction. Squares are laid in the plane Y = 0, which the test camera
@@ -51,6 +52,9 @@ PrimitiveCount CountPrimitives();
 
 // True when each component of `a` lies within `tolerance` of that of `b`.
 bool Near(const Rgb& a, const Rgb& b, int tolerance);
+
+// Paints one frame in GL selection mode over the whole view and returns the names of all hits.
+std::set<unsigned> HitNames();
 
 // A texture of one colour, made in the current context.
 int32_t SolidTexture(uint8_t red, uint8_t green, uint8_t blue);

@@ -239,3 +239,34 @@ TEST_F(EditorTest, BrokenPiggybacksAreAbandonedAndLaterOnesStillPaint) {
     DrawFile(CurrentModel().Files[0], farAway, settings);
     EXPECT_EQ(glGetError(), static_cast<GLenum>(GL_NO_ERROR));
 }
+
+TEST_F(EditorTest, PicksNameNodesAndPiggybacksOfTheCurrentFileOnly) {
+    TestFile main;
+    const auto face = main.AddSquare(-20, 0, 8);
+    const uint8_t point = main.AddNode(20, 0, 0);
+    main.AddElement({Polygon(1, {face[0], face[2]})});
+    main.AddElement({Polygon(kTextured, face), HardpointAt(point)});
+    main.AddElement({Polygon(1, {face[1], face[3]})});
+    TestFile connected;
+    connected.AddElement({Polygon(kTextured, connected.AddSquare(0, 0, 5))});
+    main.record.HP[3].Z = 25;
+    InstallFamily({main.record, FileRecord{}, FileRecord{}, connected.record});
+    View().mnu_v_nodes = true;
+
+    // The lines have no names; the hardpoint counts under the polygon before it; the connected
+    // file's square and nodes under the name each file starts with.
+    View().CurrentTab = kElementsTab;
+    EXPECT_EQ(HitNames(), (std::set<unsigned>{0, 100}));
+    View().CurrentTab = kNodesTab;
+    EXPECT_EQ(HitNames(), (std::set<unsigned>{0, 1, 2, 3, 4}));
+    CurrentModel().m_currmox = 3;
+    EXPECT_EQ(HitNames(), (std::set<unsigned>{0, 1, 2, 3}));
+
+    // The axis lines at the selection carry the axis codes only while Move is ticked.
+    CurrentModel().m_currmox = 0;
+    View().CurrentTab = kElementsTab;
+    CurrentModel().m_currelem = 100;
+    EXPECT_EQ(HitNames(), (std::set<unsigned>{0, 100}));
+    View().mnu_m_move = true;
+    EXPECT_EQ(HitNames(), (std::set<unsigned>{0, 100, 30000, 30001, 30002}));
+}
