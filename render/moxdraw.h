@@ -1,7 +1,48 @@
-// DrawFile: the painter of one file of the model family.
+// Mod_MOX_Draw: the painter of one file of the model family — its nodes, its elements with their
+// piggybacks, and the axis lines at the selected item — for the screen and the picking pass alike.
 #pragma once
 
 #include "filerecord.h"
+#include "programstate.h"
 
-// Paints `record` moved by `displacement`, the file's hardpoint in the main file.
+#include <cstdint>
+
+// Everything the painter reads besides the file record: the menu ticks, the line options, the
+// open tab, the selection and the display states. Gathered once per file, so the piggyback loop
+// reads plain values.
+struct DrawSettings {
+    bool texture = true;   // mnu_v_texture
+    bool faces = false;    // mnu_v_faces
+    bool nodes = false;    // mnu_v_nodes
+    bool sequence = false; // mnu_v_rs
+    bool move = false;     // mnu_m_move
+    bool axisX = true;     // mnu_m_a_x
+    bool axisY = false;    // mnu_m_a_y
+    bool axisZ = false;    // mnu_m_a_z
+    int16_t lineWeight = 1;
+    Colour lineColour{255, 255, 255};
+    int32_t currentTab = 0;
+    int16_t currmox = 0;
+    int16_t currelem = -1;
+    int16_t currnode = -1;
+    int32_t pilot = 0;
+    int32_t lg = 1;
+    int32_t wing = 0;
+};
+
+// The settings as the program holds them now: View(), Program() and the open model.
+DrawSettings CurrentDrawSettings();
+
+// Paints `record` moved by `displacement`, the file's hardpoint in the main file, with the
+// program's current settings.
 void DrawFile(const FileRecord& record, const Node& displacement);
+void DrawFile(const FileRecord& record, const Node& displacement, const DrawSettings& settings);
+// The nodes of `record` as points, the selected one larger and orange.
+void DrawNodes(const FileRecord& record, const Node& displacement, const DrawSettings& settings);
+// The piggyback that `number` (element * 100 + position) names, in the colour and polygon mode
+// the caller set.
+void DrawElement(const FileRecord& record, int16_t number, const Node& displacement,
+                 const DrawSettings& settings);
+
+// The stored rendering sequence flag: the last tick of "Rendering Sequence" the painter saw.
+bool SequenceOn();

@@ -25,6 +25,21 @@ enum ToolModeValue : int32_t {
     kBankTool = 6
 };
 
+// The axis codes: the Axis argument of the moving operations, the values of ModifyAxis and the GL
+// names of the axis lines at the selection.
+enum AxisCode : int32_t { kAxisX = 30000, kAxisY = 30001, kAxisZ = 30002 };
+
+// CurrentTab values: the tabs of the property panels.
+enum TabNumber : int32_t {
+    kModelInfoTab = 1,
+    kPartsTab = 2,
+    kElementsTab = 3,
+    kNodesTab = 4,
+    kCentreMoverTab = 5,
+    kNotepadTab = 6,
+    kThreeViewDataTab = 7
+};
+
 struct ViewSettings {
     int32_t ViewMode = kPerspectiveView;
     int32_t ToolMode = kPickTool;

@@ -1,0 +1,243 @@
+// The cost of a frame in the real editor window under a virtual X server with software GL: the
+// sample fighter and the largest family the format allows (seven files of 255 elements of
+// textured polygons, each file near 32 kB), and the processor time the paced frame loop takes
+// while such a model is open and nothing happens.
+#include "currentmodel.h"
+#include "gltextureloader.h"
+#include "glview.h"
+#include "mainwindow.h"
+#include "moxbuilder.h"
+#include "oglgraphics.h"
+#include "pcxwriter.h"
+#include "qtmodelhost.h"
+#include "recordinghost.h"
+#include "skylathe.h"
+#include "tempdir.h"
+#include "testpictures.h"
+#include "textureloader.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QTest>
+
+#include <GL/gl.h>
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <ctime>
+#include <iostream>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr int kScreenWidth = 1280;
+constexpr int kScreenHeight = 1024;
+constexpr int kElements = 255;
+constexpr int kPolygonsPerElement = 6;
+constexpr int kRings = 15;     // along X
+constexpr int kRingNodes = 16; // around X
+constexpr int kTextureSide = 256;
+constexpr int kIdleFrames = 120;
+constexpr int kFrameWaitMilliseconds = 60000;
+constexpr double kPi = 3.14159265358979323846;
+// The connected files of an F family and the hardpoint codes that place them, slots 1 to 6.
+constexpr char kLetters[] = {'A', 'B', 'C', 'E', 'G', 'P'};
+constexpr uint8_t kHardpointCodes[] = {25, 26, 27, 28, 29, 10};
+
+// A tube of quads around the X axis, its ring nodes first; the main file adds one node per
+// hardpoint. Every element holds the same number of textured quads, mapped over the texture. With
+// at most 256 nodes a file cannot hold 1530 quads side by side: each quad of the tube is painted
+// about seven times, as the polygons of a full file must overlap.
+MoxBuilder TubeFile(bool withHardpoints) {
+    MoxBuilder file;
+    file.SetTexture("BENCH.TPC");
+    for (int ring = 0; ring < kRings; ++ring)
+        for (int around = 0; around < kRingNodes; ++around) {
+            const double angle = 2 * kPi * around / kRingNodes;
+            Node node;
+            node.X = static_cast<int16_t>(-100 + ring * 14);
+            node.Y = static_cast<int16_t>(std::lround(30 * std::cos(angle)));
+            node.Z = static_cast<int16_t>(std::lround(30 * std::sin(angle)));
+            file.nodes.push_back(node);
+        }
+    const auto nodeAt = [](int ring, int around) {
+        return static_cast<uint8_t>(ring * kRingNodes + around % kRingNodes);
+    };
+    const int quads = (kRings - 1) * kRingNodes;
+    for (int element = 0; element < kElements; ++element) {
+        StreamBytes stream;
+        for (int k = 0; k < kPolygonsPerElement; ++k) {
+            const int quad = (element * kPolygonsPerElement + k) % quads;
+            const int ring = quad / kRingNodes;
+            const int around = quad % kRingNodes;
+            const auto u = static_cast<uint8_t>(around * 16);
+            const auto v = static_cast<uint8_t>(ring * 17);
+            stream.MappedPoly(5,
+                              {{nodeAt(ring, around), u, v},
+                               {nodeAt(ring + 1, around), u, static_cast<uint8_t>(v + 16)},
+                               {nodeAt(ring + 1, around + 1), static_cast<uint8_t>(u + 15),
+                                static_cast<uint8_t>(v + 16)},
+                               {nodeAt(ring, around + 1), static_cast<uint8_t>(u + 15), v}},
+                              0, 0);
+        }
+        if (withHardpoints && element == 0)
+            for (size_t slot = 0; slot < std::size(kHardpointCodes); ++slot) {
+                Node point;
+                point.Y = static_cast<int16_t>((static_cast<int>(slot) - 3) * 45);
+                file.nodes.push_back(point);
+                stream.Hardpoint(kHardpointCodes[slot],
+                                 static_cast<uint8_t>(file.nodes.size() - 1));
+            }
+        file.streams.push_back(stream.End().bytes);
+    }
+    return file;
+}
+
+// Writes the family and its texture into `folder`; returns the main file's name. A name that
+// begins with P and ends in F.MOX makes an F family.
+std::string WriteLargestFamily(const TempDir& folder) {
+    WritePcx8(folder.file("BENCH.PCX"), kTextureSide, kTextureSide,
+              TestIndices(kTextureSide, kTextureSide, 1), TestPalette());
+    const std::string main = folder.file("PBENCHF.MOX");
+    WriteTestFile(main, TubeFile(true).Build());
+    const std::vector<uint8_t> connected = TubeFile(false).Build();
+    for (char letter : kLetters)
+        WriteTestFile(folder.file(std::string("PBENCH") + letter + ".MOX"), connected);
+    std::cout << "largest family: 7 files, main " << TubeFile(true).Build().size()
+              << " bytes, connected " << connected.size() << " bytes each\n";
+    return main;
+}
+
+double ProcessCpuSeconds() {
+    timespec now{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
+}
+
+struct Editor {
+    RecordingHost host;
+    QtModelHost windowHost;
+    GLTextureLoader textures;
+    std::unique_ptr<frm_main> window;
+    std::string open;
+};
+
+Editor* editor = nullptr;
+
+// Opens the model `name`, or, for an empty name, leaves nothing open.
+void Open(const std::string& name) {
+    if (editor->open == name)
+        return;
+    editor->open = name;
+    if (name.empty()) {
+        ReplaceCurrentModel();
+        return;
+    }
+    OGL().MakeCurrent();
+    editor->host.answers = {MessageAnswer::Yes};
+    std::string filename = name;
+    CurrentModel().Load(filename);
+}
+
+int PiggybacksOpen() {
+    int piggybacks = 0;
+    for (const FileRecord& file : CurrentModel().Files)
+        if (file.Loaded)
+            for (int element = 0; element < file.NumElements; ++element)
+                piggybacks += file.Elements[element].Count;
+    return piggybacks;
+}
+
+void Frame(benchmark::State& state, const std::string& name) {
+    Open(name);
+    std::vector<double> milliseconds;
+    for (auto _ : state) {
+        OGL().MakeCurrent();
+        const auto start = std::chrono::steady_clock::now();
+        OGL().RenderFrame();
+        glFinish();
+        milliseconds.push_back(
+            std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
+                .count());
+    }
+    std::nth_element(milliseconds.begin(), milliseconds.begin() + milliseconds.size() / 2,
+                     milliseconds.end());
+    const double median = milliseconds[milliseconds.size() / 2];
+    state.counters["median_ms"] = median;
+    state.counters["frames_per_second"] = 1000.0 / median;
+    state.counters["piggybacks"] = PiggybacksOpen();
+}
+
+// The program's own loop: events only, each frame asking for the next at most 60 times a second.
+void IdleCpu(benchmark::State& state, const std::string& name) {
+    Open(name);
+    GLView& view = *editor->window->glView;
+    for (auto _ : state) {
+        const int64_t target = view.FrameCount() + kIdleFrames;
+        QEventLoop loop;
+        const QMetaObject::Connection counting =
+            QObject::connect(&view, &QOpenGLWindow::frameSwapped, &loop, [&] {
+                if (view.FrameCount() >= target)
+                    loop.quit();
+            });
+        const double cpuStart = ProcessCpuSeconds();
+        const auto wallStart = std::chrono::steady_clock::now();
+        loop.exec();
+        QObject::disconnect(counting);
+        const double wall =
+            std::chrono::duration<double>(std::chrono::steady_clock::now() - wallStart).count();
+        state.counters["cpu_percent_of_one_core"] = 100.0 * (ProcessCpuSeconds() - cpuStart) / wall;
+        state.counters["frames_per_second"] = kIdleFrames / wall;
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    RequestPixelFormat();
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    benchmark::Initialize(&argc, argv);
+
+    Editor running;
+    editor = &running;
+    SetTextureLoader(&running.textures);
+    running.window = StartUp("", &running.windowHost);
+    running.host.windowSide = &running.windowHost;
+    if (!OGL().bRunning) {
+        std::cerr << "bench_frame: no GL context\n";
+        return 1;
+    }
+    running.window->resize(kScreenWidth, kScreenHeight);
+    if (!QTest::qWaitFor([&] { return running.window->glView->FrameCount() > 2; },
+                         kFrameWaitMilliseconds)) {
+        std::cerr << "bench_frame: the view paints no frames\n";
+        return 1;
+    }
+    std::cout << "view " << running.window->glView->width() << " x "
+              << running.window->glView->height() << " pixels\n";
+
+    TempDir folder;
+    const std::string sample = std::string(SAMPLE_DIR) + "/PDEMOF.MOX";
+    const std::string largest = WriteLargestFamily(folder);
+    benchmark::RegisterBenchmark("BM_FrameNothingLoaded", Frame, std::string())
+        ->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("BM_FrameSample", Frame, sample)->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("BM_FrameLargestFamily", Frame, largest)
+        ->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("BM_IdleCpuSample", IdleCpu, sample)
+        ->Iterations(1)
+        ->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("BM_IdleCpuLargestFamily", IdleCpu, largest)
+        ->Iterations(1)
+        ->Unit(benchmark::kMillisecond);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+
+    ShutDown(std::move(running.window));
+    SetTextureLoader(nullptr);
+    return 0;
+}

@@ -1,0 +1,208 @@
+#include "drawscene.h"
+
+#include "currentmodel.h"
+#include "oglgraphics.h"
+#include "viewsettings.h"
+
+#include <GL/gl.h>
+#include <GL/glu.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdlib>
+
+namespace {
+
+constexpr float kCameraDistance = -100.0f;
+constexpr size_t kFeedbackFloats = 1 << 20;
+constexpr int kFeedbackVertexFloats = 3; // GL_3D
+constexpr int kTextureSide = 4;
+constexpr size_t kSelectionEntries = 1 << 16;
+
+} // namespace
+
+TestFile::TestFile() {
+    record.Loaded = true;
+    record.NumParts = 1;
+    record.Parts.resize(1);
+    record.Nodes.resize(1);
+    record.Elements.resize(1);
+    record.NRM.resize(1);
+    record.PART.resize(1);
+    record.Offsets.resize(1);
+    record.PointStep = 1.0f;
+}
+
+uint8_t TestFile::AddNode(int16_t x, int16_t y, int16_t z, int16_t body) {
+    Node node;
+    node.X = x;
+    node.Y = y;
+    node.Z = z;
+    node.B = body;
+    record.Nodes.back() = node;
+    record.Nodes.emplace_back();
+    return static_cast<uint8_t>(record.NumNodes++);
+}
+
+std::vector<uint8_t> TestFile::AddSquare(int16_t x, int16_t z, int16_t half, bool facingAway) {
+    std::vector<uint8_t> nodes{AddNode(x - half, 0, z - half), AddNode(x - half, 0, z + half),
+                               AddNode(x + half, 0, z + half), AddNode(x + half, 0, z - half)};
+    if (facingAway)
+        std::reverse(nodes.begin(), nodes.end());
+    return nodes;
+}
+
+int TestFile::AddElement(std::vector<Piggyback> items) {
+    const int element = record.NumElements++;
+    for (size_t position = 0; position < items.size(); ++position)
+        items[position].Number = static_cast<int16_t>(element * 100 + position);
+    ElementList& list = record.Elements.back();
+    list.Count = static_cast<int16_t>(items.size());
+    list.Items = std::move(items);
+    list.Items.emplace_back();
+    record.Elements.emplace_back();
+    record.NRM.emplace_back();
+    record.PART.emplace_back();
+    record.Offsets.emplace_back();
+    return element;
+}
+
+Piggyback Polygon(uint8_t type, const std::vector<uint8_t>& nodes, uint8_t cod, uint8_t flag) {
+    static const std::array<std::array<uint8_t, 2>, 4> kSquareMap{
+        {{0, 255}, {0, 0}, {255, 0}, {255, 255}}};
+    Piggyback item;
+    item.Type = type;
+    item.COD = cod;
+    item.Flag = flag;
+    item.CRN = static_cast<uint8_t>(nodes.size());
+    item.NodeList = nodes;
+    item.NodeList.push_back(0);
+    for (size_t corner = 0; corner <= nodes.size(); ++corner) {
+        const auto& map = kSquareMap[corner % kSquareMap.size()];
+        item.XMap.push_back(map[0]);
+        item.YMap.push_back(map[1]);
+    }
+    return item;
+}
+
+Piggyback HardpointAt(uint8_t node, uint8_t cod, uint8_t flag) {
+    Piggyback item;
+    item.Type = 2;
+    item.COD = cod;
+    item.Flag = flag;
+    item.CRN = 1;
+    item.NodeList = {node, 0};
+    return item;
+}
+
+void InstallFamily(std::vector<FileRecord> files) {
+    model& current = CurrentModel();
+    current.Files.assign(kFileSlots, FileRecord{});
+    for (size_t slot = 0; slot < files.size(); ++slot)
+        current.Files[slot] = std::move(files[slot]);
+    for (size_t slot = 0; slot < current.Files.size(); ++slot)
+        current.Files[slot].Index = static_cast<int16_t>(slot);
+    current.M_Type = kMoxLoaded;
+    current.m_currmox = 0;
+    current.m_currelem = -1;
+    current.m_currnode = -1;
+    current.m_zoom = kCameraDistance;
+    current.m_xpos = 0.0f;
+    current.m_ypos = 0.0f;
+    current.m_xrot = 0.0f;
+    current.m_yrot = 0.0f;
+    current.m_bank = 0.0f;
+    View().ViewMode = kPerspectiveView;
+}
+
+QPoint OnScreen(double x, double y, double z) {
+    std::array<GLdouble, 16> modelview{};
+    std::array<GLdouble, 16> projection{};
+    std::array<GLint, 4> viewport{};
+    glGetDoublev(GL_MODELVIEW_MATRIX, modelview.data());
+    glGetDoublev(GL_PROJECTION_MATRIX, projection.data());
+    glGetIntegerv(GL_VIEWPORT, viewport.data());
+    GLdouble windowX = 0;
+    GLdouble windowY = 0;
+    GLdouble windowZ = 0;
+    gluProject(x, y, z, modelview.data(), projection.data(), viewport.data(), &windowX, &windowY,
+               &windowZ);
+    return {static_cast<int>(std::lround(windowX)),
+            viewport[3] - 1 - static_cast<int>(std::lround(windowY))};
+}
+
+PrimitiveCount CountPrimitives() {
+    std::vector<GLfloat> buffer(kFeedbackFloats);
+    PrimitiveCount count;
+    if (!OGL().MakeCurrent())
+        return count;
+    glFeedbackBuffer(static_cast<GLsizei>(buffer.size()), GL_3D, buffer.data());
+    glRenderMode(GL_FEEDBACK);
+    OGL().RenderFrame();
+    const GLint used = glRenderMode(GL_RENDER);
+    for (GLint at = 0; at < used;) {
+        const auto token = static_cast<GLint>(buffer[at++]);
+        switch (token) {
+        case GL_POLYGON_TOKEN:
+            ++count.polygons;
+            at += static_cast<GLint>(buffer[at]) * kFeedbackVertexFloats + 1;
+            break;
+        case GL_LINE_TOKEN:
+        case GL_LINE_RESET_TOKEN:
+            ++count.lines;
+            at += 2 * kFeedbackVertexFloats;
+            break;
+        case GL_POINT_TOKEN:
+            ++count.points;
+            at += kFeedbackVertexFloats;
+            break;
+        case GL_PASS_THROUGH_TOKEN:
+            at += 1;
+            break;
+        default: // bitmap and pixel tokens: one vertex
+            at += kFeedbackVertexFloats;
+        }
+    }
+    return count;
+}
+
+std::set<unsigned> HitNames() {
+    std::vector<GLuint> buffer(kSelectionEntries);
+    std::set<unsigned> names;
+    if (!OGL().MakeCurrent())
+        return names;
+    glSelectBuffer(static_cast<GLsizei>(buffer.size()), buffer.data());
+    glRenderMode(GL_SELECT);
+    OGL().RenderFrame();
+    const GLint hits = glRenderMode(GL_RENDER);
+    // Each hit: the number of names, the nearest and farthest depth, then the names.
+    size_t at = 0;
+    for (GLint hit = 0; hit < hits && at < buffer.size(); ++hit) {
+        const GLuint count = buffer[at];
+        at += 3;
+        for (GLuint name = 0; name < count && at < buffer.size(); ++name)
+            names.insert(buffer[at++]);
+    }
+    return names;
+}
+
+int32_t SolidTexture(uint8_t red, uint8_t green, uint8_t blue) {
+    std::vector<uint8_t> pixels;
+    for (int i = 0; i < kTextureSide * kTextureSide; ++i)
+        pixels.insert(pixels.end(), {red, green, blue});
+    GLuint name = 0;
+    glGenTextures(1, &name);
+    glBindTexture(GL_TEXTURE_2D, name);
+    glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
+    glTexImage2D(GL_TEXTURE_2D, 0, GL_RGB, kTextureSide, kTextureSide, 0, GL_RGB, GL_UNSIGNED_BYTE,
+                 pixels.data());
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
+    return static_cast<int32_t>(name);
+}
+
+bool Near(const Rgb& a, const Rgb& b, int tolerance) {
+    return std::abs(a.red - b.red) <= tolerance && std::abs(a.green - b.green) <= tolerance &&
+           std::abs(a.blue - b.blue) <= tolerance;
+}

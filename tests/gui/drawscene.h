@@ -1,0 +1,60 @@
+// Small model files built in memory for the painter's tests, a fixed camera looking at them, and
+// ways to see what a frame holds: screen positions of model points and a count of the primitives
+// GL was given.
+#pragma once
+
+#include "editorfixture.h"
+#include "filerecord.h"
+
+#include <QPoint>
+
+#include <cstdint>
+#include <set>
+#include <vector>
+
+// A loaded file under construction. Squares are laid in the plane Y = 0, which the test camera
+// sees face on: X to the right, Z up.
+class TestFile {
+public:
+    TestFile();
+
+    uint8_t AddNode(int16_t x, int16_t y, int16_t z, int16_t body = 0);
+    // Four nodes of a square around (x, z), stored clockwise as the camera sees them, so that its
+    // front faces the camera; `facingAway` stores them the other way round.
+    std::vector<uint8_t> AddSquare(int16_t x, int16_t z, int16_t half, bool facingAway = false);
+    // A new element with these piggybacks; their Numbers are set. Returns the element index.
+    int AddElement(std::vector<Piggyback> items);
+
+    FileRecord record;
+};
+
+// A polygon of `type` over these nodes, its map spanning the whole texture.
+Piggyback Polygon(uint8_t type, const std::vector<uint8_t>& nodes, uint8_t cod = 0,
+                  uint8_t flag = 0);
+Piggyback HardpointAt(uint8_t node, uint8_t cod = 0, uint8_t flag = 0);
+
+// Puts the files into the open model's slots (the first is the main file), marks the model as a
+// loaded .mox family and sets the camera 100 units in front of the origin, looking along +Y.
+void InstallFamily(std::vector<FileRecord> files);
+
+// Where a model point lands in the frame last painted (image rows counted from the top). The GL
+// context must be current.
+QPoint OnScreen(double x, double y, double z);
+
+struct PrimitiveCount {
+    int polygons = 0; // filled pieces: a driver may hand a polygon on as several triangles
+    int lines = 0;
+    int points = 0;
+};
+// Paints one frame in GL feedback mode and counts what reached the rasteriser: culled faces and
+// hidden piggybacks do not count; an outline counts as lines.
+PrimitiveCount CountPrimitives();
+
+// True when each component of `a` lies within `tolerance` of that of `b`.
+bool Near(const Rgb& a, const Rgb& b, int tolerance);
+
+// Paints one frame in GL selection mode over the whole view and returns the names of all hits.
+std::set<unsigned> HitNames();
+
+// A texture of one colour, made in the current context.
+int32_t SolidTexture(uint8_t red, uint8_t green, uint8_t blue);

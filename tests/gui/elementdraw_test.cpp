@@ -1,0 +1,272 @@
+// The painter of one file, read back from the GL view: nodes, polygons in their display states,
+// hardpoints, outlines, the selection, the axis lines, connected files and damaged data.
+#include "currentmodel.h"
+#include "drawscene.h"
+#include "editorfixture.h"
+#include "moxdraw.h"
+#include "oglgraphics.h"
+#include "programstate.h"
+#include "viewsettings.h"
+
+#include <GL/gl.h>
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+constexpr int kTextured = 5;
+constexpr uint8_t kCodePilot = 146;
+constexpr int kColourTolerance = 6;
+
+bool Near(const Rgb& a, const Rgb& b) {
+    return Near(a, b, kColourTolerance);
+}
+
+Rgb SkyPixel() {
+    const Colour& sky = Program().SkyColour;
+    const auto eightBits = [](int value) {
+        return static_cast<int>(std::lround(value / 256.0 * 255));
+    };
+    return {eightBits(sky.red), eightBits(sky.green), eightBits(sky.blue)};
+}
+
+Rgb At(const QImage& frame, const QPoint& point) {
+    return PixelAt(frame, point.x(), point.y());
+}
+
+const Rgb kWhite{255, 255, 255};
+const Rgb kBlack{0, 0, 0};
+const Rgb kRed{255, 0, 0};
+const Rgb kBlue{0, 0, 255};
+const Rgb kOrange{255, 128, 38};
+
+// The run of pixels that are not sky through `centre`, along its row or along its column.
+int RunThrough(const QImage& frame, const QPoint& centre, bool alongRow = true) {
+    const Rgb sky = SkyPixel();
+    const QPoint step = alongRow ? QPoint(1, 0) : QPoint(0, 1);
+    const auto notSky = [&](const QPoint& at) {
+        return frame.rect().contains(at) && !Near(At(frame, at), sky);
+    };
+    int run = 1;
+    for (QPoint at = centre - step; notSky(at); at -= step)
+        ++run;
+    for (QPoint at = centre + step; notSky(at); at += step)
+        ++run;
+    return run;
+}
+
+} // namespace
+
+TEST_F(EditorTest, AFileWithoutElementsPaintsItsNodesSizedByTheLineWeight) {
+    TestFile file;
+    file.AddNode(-20, 0, 0);
+    file.AddNode(20, 0, 0);
+    InstallFamily({file.record});
+    Program().LineWeight = 3;
+    View().mnu_v_nodes = true;
+    CurrentModel().m_currnode = 1;
+
+    const QImage frame = ReadFrame();
+    const QPoint plain = OnScreen(-20, 0, 0);
+    const QPoint selected = OnScreen(20, 0, 0);
+    EXPECT_TRUE(Near(At(frame, plain), kBlue)) << ::testing::PrintToString(At(frame, plain));
+    EXPECT_TRUE(Near(At(frame, selected), kOrange))
+        << ::testing::PrintToString(At(frame, selected));
+    // (3 * 2 + 20) and 50 point units of one pixel each.
+    EXPECT_NEAR(RunThrough(frame, plain), 26, 1);
+    EXPECT_NEAR(RunThrough(frame, selected), 50, 1);
+
+    // Without the nodes nothing is left but sky.
+    View().mnu_v_nodes = false;
+    const QImage empty = ReadFrame();
+    for (int y = 0; y < empty.height(); y += 7)
+        for (int x = 0; x < empty.width(); x += 7)
+            ASSERT_EQ(PixelAt(empty, x, y), SkyPixel()) << x << "," << y;
+}
+
+TEST_F(EditorTest, StateCodesHidePolygonsButNotHardpoints) {
+    TestFile file;
+    const auto face = file.AddSquare(-20, 0, 8);
+    const uint8_t point = file.AddNode(20, 0, 0);
+    file.AddElement({Polygon(kTextured, face, kCodePilot, 2), HardpointAt(point, kCodePilot, 1)});
+    InstallFamily({file.record});
+
+    for (int pilot : {0, 1, 2}) {
+        CurrentModel().m_pilot = pilot;
+        const QImage frame = ReadFrame();
+        EXPECT_EQ(Near(At(frame, OnScreen(-20, 0, 0)), kWhite), pilot == 2) << "pilot " << pilot;
+        EXPECT_TRUE(Near(At(frame, OnScreen(20, 0, 0)), kBlack)) << "pilot " << pilot;
+    }
+}
+
+TEST_F(EditorTest, OutlinesSelectionAndCulling) {
+    ASSERT_TRUE(OGL().MakeCurrent());
+    TestFile file;
+    file.record.TextureID = SolidTexture(200, 160, 40);
+    const auto front = file.AddSquare(-20, 0, 10);
+    const auto back = file.AddSquare(20, 0, 10, true);
+    const auto line = file.AddSquare(0, 25, 5);
+    file.AddElement({Polygon(kTextured, front), Polygon(kTextured, back),
+                     Polygon(1, {line[0], line[2]}), Polygon(kTypeNull, {})});
+    InstallFamily({file.record});
+    Program().LineWeight = 3;
+    const Rgb texture{200, 160, 40};
+
+    // The line and the NULL entry paint nothing, and the back face is culled.
+    PrimitiveCount count = CountPrimitives();
+    const int filled = count.polygons;
+    EXPECT_GT(filled, 0);
+    EXPECT_EQ(count.lines, 0);
+    QImage frame = ReadFrame();
+    const QPoint centre = OnScreen(-20, 0, 0);
+    const QPoint edge = OnScreen(-30, 0, 0);
+    EXPECT_TRUE(Near(At(frame, centre), texture)) << ::testing::PrintToString(At(frame, centre));
+    EXPECT_TRUE(Near(At(frame, edge), texture));
+    EXPECT_EQ(At(frame, OnScreen(20, 0, 0)), SkyPixel());
+
+    // Face outlines paint the front face again, as four white lines over the texture.
+    View().mnu_v_faces = true;
+    count = CountPrimitives();
+    EXPECT_EQ(count.polygons, filled);
+    EXPECT_EQ(count.lines, 4);
+    frame = ReadFrame();
+    EXPECT_TRUE(Near(At(frame, centre), texture));
+    EXPECT_TRUE(Near(At(frame, edge), kWhite)) << ::testing::PrintToString(At(frame, edge));
+
+    // The selected piggyback is red-tinted over its texture and solid red in line view.
+    CurrentModel().m_currelem = 0;
+    frame = ReadFrame();
+    EXPECT_TRUE(Near(At(frame, centre), (Rgb{200, 0, 0})));
+    View().mnu_v_texture = false;
+    frame = ReadFrame();
+    EXPECT_TRUE(Near(At(frame, centre), kRed));
+    // In another file's selection it is only an outline in the line colour.
+    CurrentModel().m_currmox = 1;
+    frame = ReadFrame();
+    EXPECT_EQ(At(frame, centre), SkyPixel());
+    EXPECT_TRUE(Near(At(frame, edge), kWhite));
+}
+
+TEST_F(EditorTest, AxisLinesAreTenUnitsLongAtEveryZoom) {
+    TestFile file;
+    file.AddNode(-5, 0, -5);
+    InstallFamily({file.record});
+    View().CurrentTab = kNodesTab;
+    CurrentModel().m_currnode = 0;
+    Program().LineWeight = 3;
+
+    for (float zoom : {-100.0f, -300.0f}) {
+        CurrentModel().m_zoom = zoom;
+        const QImage frame = ReadFrame();
+        EXPECT_TRUE(Near(At(frame, OnScreen(4.5, 0, -5)), kRed)) << "zoom " << zoom;
+        EXPECT_EQ(At(frame, OnScreen(5.5, 0, -5)), SkyPixel()) << "zoom " << zoom;
+        EXPECT_TRUE(Near(At(frame, OnScreen(-5, 0, 4.5)), kBlue)) << "zoom " << zoom;
+        EXPECT_EQ(At(frame, OnScreen(-5, 0, 5.5)), SkyPixel()) << "zoom " << zoom;
+    }
+    // The X line is ticked, so it is 2 pixels wider than the line weight; Z is not.
+    CurrentModel().m_zoom = -100.0f;
+    const QImage frame = ReadFrame();
+    EXPECT_EQ(RunThrough(frame, OnScreen(0, 0, -5), false), 5);
+    EXPECT_EQ(RunThrough(frame, OnScreen(-5, 0, 0)), 3);
+
+    // The depth test goes off once when the rendering sequence is turned on, and on again.
+    View().mnu_v_rs = true;
+    ReadFrame();
+    EXPECT_TRUE(SequenceOn());
+    EXPECT_FALSE(glIsEnabled(GL_DEPTH_TEST));
+    View().mnu_v_rs = false;
+    ReadFrame();
+    EXPECT_FALSE(SequenceOn());
+    EXPECT_TRUE(glIsEnabled(GL_DEPTH_TEST));
+}
+
+TEST_F(EditorTest, ConnectedFilesSitAtTheirHardpointsAndEmptySlotsAreSkipped) {
+    TestFile main;
+    TestFile unloaded;
+    unloaded.AddElement({Polygon(kTextured, unloaded.AddSquare(0, 0, 5))});
+    unloaded.record.Loaded = false;
+    TestFile connected;
+    connected.AddElement({Polygon(kTextured, connected.AddSquare(0, 0, 5))});
+    main.record.HP[1].X = -30;
+    main.record.HP[3].X = 30;
+    main.record.HP[3].Z = 10;
+    InstallFamily({main.record, unloaded.record, FileRecord{}, connected.record});
+
+    const QImage frame = ReadFrame();
+    EXPECT_TRUE(Near(At(frame, OnScreen(30, 0, 10)), kWhite));
+    EXPECT_EQ(At(frame, OnScreen(0, 0, 0)), SkyPixel());
+    EXPECT_EQ(At(frame, OnScreen(-30, 0, 0)), SkyPixel());
+}
+
+TEST_F(EditorTest, BrokenPiggybacksAreAbandonedAndLaterOnesStillPaint) {
+    TestFile file;
+    const uint8_t body = 1;
+    file.record.Parts.insert(file.record.Parts.begin(), Part{});
+    file.record.Parts[0].X = 1000;
+    file.record.NumParts = 2;
+    auto beyondNodes = file.AddSquare(-20, 0, 5);
+    beyondNodes.back() = 200;
+    auto overflow = file.AddSquare(-20, 20, 5);
+    overflow.back() = file.AddNode(std::numeric_limits<int16_t>::max() - 10, 0, 0, body);
+    auto noSuchPart = file.AddSquare(-20, -20, 5);
+    noSuchPart.back() = file.AddNode(0, 0, 0, 7);
+    file.AddElement({Polygon(kTextured, beyondNodes), Polygon(kTextured, overflow),
+                     Polygon(kTextured, noSuchPart), HardpointAt(200)});
+    file.AddElement({Polygon(kTextured, file.AddSquare(20, 0, 5))});
+    // Counts beyond the arrays they count.
+    file.AddElement({Polygon(kTextured, file.AddSquare(20, 20, 5))});
+    file.record.Elements[2].Count = 40;
+    file.record.NumElements = 60;
+    file.record.NumNodes = 255;
+    InstallFamily({file.record});
+    View().CurrentTab = kElementsTab;
+    View().mnu_v_nodes = true;
+    CurrentModel().m_currelem = 3;
+
+    const QImage frame = ReadFrame();
+    EXPECT_TRUE(Near(At(frame, OnScreen(20, 0, 0)), kWhite));
+    EXPECT_TRUE(Near(At(frame, OnScreen(20, 0, 20)), kWhite));
+    // Each abandoned square lost its first painted corner, so nothing of it shows.
+    EXPECT_EQ(At(frame, OnScreen(-20, 0, -3)), SkyPixel());
+
+    ASSERT_TRUE(OGL().MakeCurrent());
+    const DrawSettings settings = CurrentDrawSettings();
+    for (int16_t number : {int16_t{-5}, int16_t{-101}, int16_t{99}, int16_t{32767}})
+        DrawElement(CurrentModel().Files[0], number, Node{}, settings);
+    Node farAway;
+    farAway.X = std::numeric_limits<int16_t>::max();
+    DrawFile(CurrentModel().Files[0], farAway, settings);
+    EXPECT_EQ(glGetError(), static_cast<GLenum>(GL_NO_ERROR));
+}
+
+TEST_F(EditorTest, PicksNameNodesAndPiggybacksOfTheCurrentFileOnly) {
+    TestFile main;
+    const auto face = main.AddSquare(-20, 0, 8);
+    const uint8_t point = main.AddNode(20, 0, 0);
+    main.AddElement({Polygon(1, {face[0], face[2]})});
+    main.AddElement({Polygon(kTextured, face), HardpointAt(point)});
+    main.AddElement({Polygon(1, {face[1], face[3]})});
+    TestFile connected;
+    connected.AddElement({Polygon(kTextured, connected.AddSquare(0, 0, 5))});
+    main.record.HP[3].Z = 25;
+    InstallFamily({main.record, FileRecord{}, FileRecord{}, connected.record});
+    View().mnu_v_nodes = true;
+
+    // The lines have no names; the hardpoint counts under the polygon before it; the connected
+    // file's square and nodes under the name each file starts with.
+    View().CurrentTab = kElementsTab;
+    EXPECT_EQ(HitNames(), (std::set<unsigned>{0, 100}));
+    View().CurrentTab = kNodesTab;
+    EXPECT_EQ(HitNames(), (std::set<unsigned>{0, 1, 2, 3, 4}));
+    CurrentModel().m_currmox = 3;
+    EXPECT_EQ(HitNames(), (std::set<unsigned>{0, 1, 2, 3}));
+
+    // The axis lines at the selection carry the axis codes only while Move is ticked.
+    CurrentModel().m_currmox = 0;
+    View().CurrentTab = kElementsTab;
+    CurrentModel().m_currelem = 100;
+    EXPECT_EQ(HitNames(), (std::set<unsigned>{0, 100}));
+    View().mnu_m_move = true;
+    EXPECT_EQ(HitNames(), (std::set<unsigned>{0, 100, 30000, 30001, 30002}));
+}
