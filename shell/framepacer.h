@@ -1,11 +1,13 @@
-// The repaint of the program's frame loop: every finished frame of the GL view asks for the
-// next one while the program runs, at most 60 a second, so the view shows each change in the
-// next frame without using a whole processor where the display gives no vertical sync.
+// The repaint of the program's frame loop. Sixty times a second it looks whether anything the
+// view shows has changed since the last frame (the scene's fingerprint, textures waiting for GL)
+// and asks for a frame when it has, so that each change shows in the next frame without any
+// notice while a still picture costs next to nothing.
 #pragma once
 
-#include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
+
+#include <cstdint>
 
 class QOpenGLWindow;
 
@@ -14,11 +16,16 @@ class FramePacer : public QObject {
 public:
     explicit FramePacer(QOpenGLWindow& view);
 
-private:
-    void RequestNextFrame();
+    // Looks for a change once; the timer calls it sixty times a second.
+    void Tick();
+    // Looks made since the pacer began.
+    int64_t TickCount() const { return ticks_; }
 
+private:
     QOpenGLWindow& view_;
     QTimer timer_;
-    QElapsedTimer clock_;
-    qint64 nextFrameAt_ = 0; // nanoseconds on clock_
+    // The fingerprint of the scene the last frame asked for; none yet before the first.
+    uint64_t painted_ = 0;
+    bool paintedAny_ = false;
+    int64_t ticks_ = 0;
 };

@@ -104,7 +104,7 @@ void frm_main::BuildPanes() {
     pic_render->setObjectName("pic_render");
     pic_render->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     columns->addWidget(pic_render, 1);
-    new FramePacer(*glView);
+    framePacer = new FramePacer(*glView);
 
     setCentralWidget(central);
 }

@@ -6,6 +6,7 @@
 
 #include <QMainWindow>
 
+class FramePacer;
 class GLView;
 class QAction;
 class QCloseEvent;
@@ -40,6 +41,8 @@ public:
     // The view: a widget that holds the GL surface `glView` and keeps it at its own place and size.
     QWidget* pic_render = nullptr;
     GLView* glView = nullptr;
+    // Asks the view for a frame whenever what it shows has changed.
+    FramePacer* framePacer = nullptr;
 
 signals:
     // The closing sequence has run to its end and bRunning is false.

@@ -1,12 +1,14 @@
 // The closing sequence: the question about saving, Cancel, and the end of the main loop.
 #include "currentmodel.h"
 #include "editorfixture.h"
+#include "glview.h"
 #include "mainwindow.h"
 #include "oglgraphics.h"
 #include "skylathe.h"
 
 #include <QAction>
 #include <QSignalSpy>
+#include <QTest>
 #include <QTimer>
 
 namespace {
@@ -30,7 +32,10 @@ TEST_F(EditorTest, ExitWithAModelOpenAsksAndCancelKeepsTheProgramRunning) {
     EXPECT_EQ(host.messages[0], kSaveQuestion);
     EXPECT_TRUE(OGL().bRunning);
     EXPECT_TRUE(Window().isVisible());
-    EXPECT_TRUE(WaitForFrames(2)) << "the view goes on painting after Cancel";
+    const int64_t painted = Window().glView->FrameCount();
+    CurrentModel().m_xrot += 10.0f;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Window().glView->FrameCount() > painted; }))
+        << "the view goes on showing changes after Cancel";
 
     Window().close();
     EXPECT_EQ(host.messages.size(), 2u);

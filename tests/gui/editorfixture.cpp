@@ -38,9 +38,14 @@ GLView& EditorTest::Surface() {
 }
 
 bool EditorTest::WaitForFrames(int count) {
-    const int64_t target = Surface().FrameCount() + count;
-    return QTest::qWaitFor([&] { return Surface().FrameCount() >= target; },
-                           kFrameWaitMilliseconds);
+    for (int frame = 0; frame < count; ++frame) {
+        const int64_t target = Surface().FrameCount() + 1;
+        Surface().update();
+        if (!QTest::qWaitFor([&] { return Surface().FrameCount() >= target; },
+                             kFrameWaitMilliseconds))
+            return false;
+    }
+    return true;
 }
 
 QImage EditorTest::ReadFrame() {

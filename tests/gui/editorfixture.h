@@ -26,8 +26,8 @@ protected:
     // The window's child of the given Qt object name, or nullptr.
     template <typename T> T* Find(const char* name) const;
 
-    // Waits, by letting events run, until the view has painted `count` more frames. False when
-    // they do not come within a few seconds.
+    // Asks the view for `count` frames one after the other, as a handler does, and waits, by
+    // letting events run, until each is painted. False when one does not come within seconds.
     bool WaitForFrames(int count);
     // Paints one frame into the view's back buffer, as the view paints it, and reads it back.
     QImage ReadFrame();

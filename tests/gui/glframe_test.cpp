@@ -1,6 +1,7 @@
 // The GL context, the frame and the viewport, read back from the view.
 #include "currentmodel.h"
 #include "editorfixture.h"
+#include "framepacer.h"
 #include "glview.h"
 #include "modeldraw.h"
 #include "oglgraphics.h"
@@ -9,11 +10,13 @@
 
 #include <QMatrix4x4>
 #include <QOpenGLContext>
+#include <QTest>
 
 #include <GL/gl.h>
 
 #include <array>
 #include <cmath>
+#include <functional>
 
 namespace {
 
@@ -138,6 +141,28 @@ TEST_F(EditorTest, DrawPassesOverAFamilyItCannotPaint) {
     ExpectSkyEverywhere(ReadFrame(), "a family shorter than its slots");
 }
 
-TEST_F(EditorTest, TheViewRepaintsWithoutAnyChange) {
-    EXPECT_TRUE(WaitForFrames(5));
+TEST_F(EditorTest, TheViewPaintsEachChangeInItsNextFrameAndRestsWhileNothingChanges) {
+    const FramePacer& pacer = *Window().framePacer;
+    const auto waitForTicks = [&](int count) {
+        const int64_t target = pacer.TickCount() + count;
+        return QTest::qWaitFor([&] { return pacer.TickCount() >= target; });
+    };
+    ASSERT_TRUE(waitForTicks(2));
+    const int64_t resting = Surface().FrameCount();
+    ASSERT_TRUE(waitForTicks(5));
+    EXPECT_EQ(Surface().FrameCount(), resting) << "a still picture is not painted again";
+
+    for (auto change : std::initializer_list<std::function<void()>>{
+             [] { CurrentModel().m_zoom -= 5.0f; },
+             [] { View().mnu_v_nodes = !View().mnu_v_nodes; }, [] { Program().LineWeight = 4; },
+             [] {
+                 model& current = CurrentModel();
+                 current.Files.resize(kFileSlots);
+                 current.Files[0].Nodes.resize(2);
+                 current.Files[0].Nodes[0].X = 7;
+             }}) {
+        const int64_t before = Surface().FrameCount();
+        change();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Surface().FrameCount() > before; }));
+    }
 }
