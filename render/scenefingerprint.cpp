@@ -4,6 +4,7 @@
 #include "programstate.h"
 #include "viewsettings.h"
 
+#include <algorithm>
 #include <cstring>
 #include <string>
 #include <type_traits>
@@ -11,30 +12,25 @@
 
 namespace {
 
-// FNV-1a over the values as they lie in memory; every value added is a plain number.
+// A multiply-and-xor hash over plain numbers, a word at a time: it runs sixty times a second over
+// the whole model, so it has to be cheap.
 class Fingerprint {
 public:
     template <typename T> void Add(const T& value) {
-        static_assert(std::is_arithmetic_v<T>, "only numbers are added byte by byte");
-        unsigned char bytes[sizeof(T)];
-        std::memcpy(bytes, &value, sizeof(T));
-        AddBytes(bytes, sizeof(T));
+        static_assert(std::is_arithmetic_v<T> && sizeof(T) <= sizeof(uint64_t),
+                      "only plain numbers are added as words");
+        uint64_t word = 0;
+        std::memcpy(&word, &value, sizeof(T));
+        Mix(word);
     }
-    void Add(const std::string& text) {
-        Add(text.size());
-        AddBytes(text.data(), text.size());
-    }
+    void Add(const std::string& text) { AddBytes(text.data(), text.size()); }
+    void Add(const std::vector<uint8_t>& bytes) { AddBytes(bytes.data(), bytes.size()); }
     template <typename T> void Add(const std::vector<T>& values) {
         Add(values.size());
         for (const T& value : values)
             Add(value);
     }
-    void Add(const Node& node) {
-        Add(node.X);
-        Add(node.Y);
-        Add(node.Z);
-        Add(node.B);
-    }
+    void Add(const Node& node) { Mix(Pack16(node.X, node.Y, node.Z, node.B)); }
     void Add(const Part& part) {
         Add(part.Code);
         Add(part.Num);
@@ -43,27 +39,21 @@ public:
         Add(part.Z);
     }
     void Add(const NRMRecord& plane) {
-        Add(plane.X);
-        Add(plane.Y);
-        Add(plane.Z);
+        Mix(Pack16(plane.X, plane.Y, plane.Z, plane.F));
         Add(plane.D);
-        Add(plane.F);
     }
     void Add(const ChildPair& pair) {
         Add(pair[0]);
         Add(pair[1]);
     }
     void Add(const Piggyback& item) {
-        Add(item.Number);
-        Add(item.COD);
-        Add(item.Flag);
-        Add(item.Type);
-        Add(item.CRN);
+        const uint8_t bytes[] = {item.COD, item.Flag, item.Type, item.CRN, item.Att1, item.Att2};
+        uint64_t word = static_cast<uint16_t>(item.Number);
+        std::memcpy(reinterpret_cast<unsigned char*>(&word) + 2, bytes, sizeof(bytes));
+        Mix(word);
         Add(item.NodeList);
         Add(item.XMap);
         Add(item.YMap);
-        Add(item.Att1);
-        Add(item.Att2);
     }
     void Add(const ElementList& list) {
         Add(list.Count);
@@ -95,11 +85,23 @@ public:
     uint64_t Value() const { return hash_; }
 
 private:
+    static uint64_t Pack16(int16_t a, int16_t b, int16_t c, int16_t d) {
+        return static_cast<uint64_t>(static_cast<uint16_t>(a)) |
+               static_cast<uint64_t>(static_cast<uint16_t>(b)) << 16 |
+               static_cast<uint64_t>(static_cast<uint16_t>(c)) << 32 |
+               static_cast<uint64_t>(static_cast<uint16_t>(d)) << 48;
+    }
+    void Mix(uint64_t word) {
+        hash_ = (hash_ ^ word) * kPrime;
+        hash_ ^= hash_ >> 29;
+    }
     void AddBytes(const void* data, size_t size) {
+        Add(size);
         const auto* bytes = static_cast<const unsigned char*>(data);
-        for (size_t i = 0; i < size; ++i) {
-            hash_ ^= bytes[i];
-            hash_ *= kPrime;
+        for (size_t at = 0; at < size; at += sizeof(uint64_t)) {
+            uint64_t word = 0;
+            std::memcpy(&word, bytes + at, std::min(sizeof(uint64_t), size - at));
+            Mix(word);
         }
     }
 
