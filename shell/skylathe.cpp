@@ -38,7 +38,7 @@ std::unique_ptr<frm_main> StartUp(const std::string& commandLine, QtModelHost* w
     if (!commandLine.empty() && OGL().MakeCurrent())
         OpenModelFromCommandLine(commandLine);
     window->UpdateRecentMenus();
-    // The first frame; each frame then asks for the next.
+    // The first frame; the frame pacer asks for each later one when the picture changes.
     window->glView->update();
     return window;
 }

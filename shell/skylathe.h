@@ -13,7 +13,7 @@ class QtModelHost;
 // The window's changes of loads and saves go to `windowHost` when one is given.
 std::unique_ptr<frm_main> StartUp(const std::string& commandLine,
                                   QtModelHost* windowHost = nullptr);
-// The main loop: window events, with the view repainted continuously, until the closing
+// The main loop: window events, with the view repainted whenever it changes, until the closing
 // sequence clears bRunning. Returns at once when bRunning is false already.
 void RunMainLoop(frm_main& window);
 // Releases the open model, then the GL context, then the window (which still runs its closing
