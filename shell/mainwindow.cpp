@@ -6,7 +6,7 @@
 #include "glview.h"
 #include "modelhost.h"
 #include "oglgraphics.h"
-#include "perspectivecamera.h"
+#include "homecamera.h"
 
 #include <QAction>
 #include <QCloseEvent>

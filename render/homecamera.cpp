@@ -1,4 +1,4 @@
-#include "perspectivecamera.h"
+#include "homecamera.h"
 
 #include "viewsettings.h"
 
