@@ -75,12 +75,12 @@ struct FileRecord {
     int16_t NumParts = 0;
     int16_t NumNodes = 0;
     int16_t NumElements = 0;
-    std::vector<Part> Parts;          // NumParts entries: NumParts - 1 records and a spare
-    std::vector<NRMRecord> NRM;       // NumElements + 1
-    ChildPair Root{};                 // Root(0) starts the tree walk, 255 none
-    std::vector<ChildPair> PART;      // NumElements + 1: the two children of each element
-    std::vector<Node> Nodes;          // NumNodes + 1
-    std::vector<int16_t> Offsets;     // NumElements + 1, as read
+    std::vector<Part> Parts;           // NumParts entries: NumParts - 1 records and a spare
+    std::vector<NRMRecord> NRM;        // NumElements + 1
+    ChildPair Root{};                  // Root(0) starts the tree walk, 255 none
+    std::vector<ChildPair> PART;       // NumElements + 1: the two children of each element
+    std::vector<Node> Nodes;           // NumNodes + 1
+    std::vector<int16_t> Offsets;      // NumElements + 1, as read
     std::vector<ElementList> Elements; // NumElements + 1
     float PointStep = 1.0f;
     int32_t TextureID = 0;

@@ -15,9 +15,13 @@ ModelHost* currentHost = &silentHost;
 
 } // namespace
 
-ModelHost& Host() { return *currentHost; }
+ModelHost& Host() {
+    return *currentHost;
+}
 
-void SetHost(ModelHost* host) { currentHost = host != nullptr ? host : &silentHost; }
+void SetHost(ModelHost* host) {
+    currentHost = host != nullptr ? host : &silentHost;
+}
 
 void ShowMessage(const std::string& text, MessageIcon icon) {
     Host().ShowMessage(text, MessageButtons::Ok, icon, "Skylathe");

@@ -16,8 +16,7 @@ PiggybackRef SplitNumber(int16_t number) {
 
 namespace {
 
-template <typename Record>
-auto* FindIn(Record& record, int16_t number) {
+template <typename Record> auto* FindIn(Record& record, int16_t number) {
     const PiggybackRef ref = SplitNumber(number);
     using Result = decltype(&record.Elements[0].Items[0]);
     if (ref.element < 0 || ref.position < 0 || ref.element >= record.NumElements ||
@@ -35,7 +34,9 @@ const Piggyback* FindPiggyback(const FileRecord& record, int16_t number) {
     return FindIn(record, number);
 }
 
-Piggyback* FindPiggyback(FileRecord& record, int16_t number) { return FindIn(record, number); }
+Piggyback* FindPiggyback(FileRecord& record, int16_t number) {
+    return FindIn(record, number);
+}
 
 bool GetElementNode(const FileRecord& record, int16_t number, int corner, Node& node) {
     const Piggyback* item = FindPiggyback(record, number);

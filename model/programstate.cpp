@@ -4,6 +4,10 @@ namespace {
 ProgramState state;
 }
 
-ProgramState& Program() { return state; }
+ProgramState& Program() {
+    return state;
+}
 
-void ResetProgramState() { state = ProgramState{}; }
+void ResetProgramState() {
+    state = ProgramState{};
+}

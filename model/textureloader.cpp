@@ -4,6 +4,10 @@ namespace {
 TextureLoader* currentLoader = nullptr;
 }
 
-TextureLoader* CurrentTextureLoader() { return currentLoader; }
+TextureLoader* CurrentTextureLoader() {
+    return currentLoader;
+}
 
-void SetTextureLoader(TextureLoader* loader) { currentLoader = loader; }
+void SetTextureLoader(TextureLoader* loader) {
+    currentLoader = loader;
+}

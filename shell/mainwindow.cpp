@@ -4,9 +4,9 @@
 #include "currentmodel.h"
 #include "framepacer.h"
 #include "glview.h"
+#include "homecamera.h"
 #include "modelhost.h"
 #include "oglgraphics.h"
-#include "homecamera.h"
 
 #include <QAction>
 #include <QCloseEvent>
