@@ -3,13 +3,12 @@
 #include "model.h"
 
 #include "familynames.h"
+#include "foldersearch.h"
 #include "modelhost.h"
 #include "moxreader.h"
 #include "moxwriter.h"
 #include "programstate.h"
 
-#include <algorithm>
-#include <cctype>
 #include <filesystem>
 
 namespace {
@@ -23,13 +22,6 @@ constexpr const char* kNothingToSaveMessage =
 constexpr const char* kMainEnding = ".MOX";
 constexpr int kLastFamilySlot = 6;
 constexpr int32_t kModifyAxisX = 30000;
-
-bool SameIgnoringCase(const std::string& a, const std::string& b) {
-    return a.size() == b.size() &&
-           std::equal(a.begin(), a.end(), b.begin(), [](unsigned char x, unsigned char y) {
-               return std::toupper(x) == std::toupper(y);
-           });
-}
 
 // Family names are built in upper case ("PLANEA.MOX"), and the family letter and extension of a
 // file on disk may be in either case. When no file has the exact name, a file in the same folder

@@ -1,10 +1,9 @@
 #include "texturepath.h"
 
+#include "foldersearch.h"
 #include "latin1text.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <vector>
 
 namespace {
 
@@ -27,25 +26,6 @@ std::string FolderOf(const std::string& filename) {
     return slash == std::string::npos ? std::string() : filename.substr(0, slash + 1);
 }
 
-// The entry of `folder` whose name is `wanted` up to the case of its ASCII letters: the exact
-// name when it exists, else the first such name in sorted order, else `wanted` itself.
-std::string MatchInFolder(const std::string& folder, const std::string& wanted) {
-    namespace fs = std::filesystem;
-    const fs::path dir = folder.empty() ? fs::path(".") : fs::path(folder);
-    std::error_code error;
-    if (fs::is_regular_file(dir / wanted, error))
-        return wanted;
-    std::vector<std::string> matches;
-    for (fs::directory_iterator it(dir, error), end; !error && it != end; it.increment(error)) {
-        const std::string name = it->path().filename().string();
-        if (UpperAscii(name) == wanted)
-            matches.push_back(name);
-    }
-    if (matches.empty())
-        return wanted;
-    return *std::min_element(matches.begin(), matches.end());
-}
-
 } // namespace
 
 std::string TextureFileName(const TextureName& texture) {
@@ -58,5 +38,7 @@ std::string TextureFileName(const TextureName& texture) {
 
 std::string TexturePath(const std::string& modelFilename, const TextureName& texture) {
     const std::string folder = FolderOf(modelFilename);
-    return folder + MatchInFolder(folder, TextureFileName(texture));
+    const std::string wanted = TextureFileName(texture);
+    const std::string found = FindEntryIgnoringCase(folder, wanted);
+    return folder + (found.empty() ? wanted : found);
 }

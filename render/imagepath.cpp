@@ -1,36 +1,19 @@
 #include "imagepath.h"
 
+#include "foldersearch.h"
+
 #include <algorithm>
-#include <cctype>
 #include <filesystem>
 
 namespace fs = std::filesystem;
 
 namespace {
 
-bool SameIgnoringCase(const std::string& a, const std::string& b) {
-    return a.size() == b.size() &&
-           std::equal(a.begin(), a.end(), b.begin(), [](unsigned char x, unsigned char y) {
-               return std::tolower(x) == std::tolower(y);
-           });
-}
-
 // `folder / name` as it is on disk, or an empty path when neither it nor a name differing only in
 // case exists.
 fs::path FindEntry(const fs::path& folder, const fs::path& name) {
-    std::error_code error;
-    const fs::path exact = folder / name;
-    if (fs::exists(exact, error))
-        return exact;
-    const fs::path searched = folder.empty() ? fs::path(".") : folder;
-    const std::string wanted = name.string();
-    for (fs::directory_iterator it(searched, error), end; !error && it != end;
-         it.increment(error)) {
-        const fs::path entry = it->path().filename();
-        if (SameIgnoringCase(entry.string(), wanted))
-            return folder / entry;
-    }
-    return {};
+    const std::string found = FindEntryIgnoringCase(folder.string(), name.string());
+    return found.empty() ? fs::path() : folder / found;
 }
 
 } // namespace
