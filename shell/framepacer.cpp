@@ -23,9 +23,8 @@ void FramePacer::Tick() {
     // The window system repaints an exposed or resized view by itself; what is left to notice
     // is a change of the scene.
     const uint64_t scene = SceneFingerprint();
-    if (paintedAny_ && scene == painted_ && !HasPendingTextures())
+    if (painted_ == scene && !HasPendingTextures())
         return;
     painted_ = scene;
-    paintedAny_ = true;
     view_.update();
 }

@@ -8,6 +8,7 @@
 #include <QTimer>
 
 #include <cstdint>
+#include <optional>
 
 class QOpenGLWindow;
 
@@ -24,8 +25,7 @@ public:
 private:
     QOpenGLWindow& view_;
     QTimer timer_;
-    // The fingerprint of the scene the last frame asked for; none yet before the first.
-    uint64_t painted_ = 0;
-    bool paintedAny_ = false;
+    // The fingerprint of the scene the last frame asked for; none before the first.
+    std::optional<uint64_t> painted_;
     int64_t ticks_ = 0;
 };
