@@ -50,6 +50,10 @@ public:
     int16_t GetLength(bool all, int32_t result) const;
     int16_t GetHeight(bool all, int32_t result) const;
 
+    // Fills the panel of tab `TabNum` (1 to 7) from the current file; nothing unless a .mox
+    // family is open (modelinfo.cpp).
+    void WriteInfo(int32_t TabNum) const;
+
 private:
     // Reads `filename` into Files(slot) and notes the slot in the record.
     void ReadSlot(const std::string& filename, int16_t slot);

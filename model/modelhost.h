@@ -48,6 +48,8 @@ public:
     virtual void SetHelpCaption([[maybe_unused]] const std::string& caption) {}
     virtual bool HelpBold() { return false; }
     virtual void SetHelpBold([[maybe_unused]] bool bold) {}
+    // Fills the panel of tab `tab` (1 to 7) from the record of the current file.
+    virtual void FillPanel([[maybe_unused]] int32_t tab) {}
     // Lets pending window events run, so that the window repaints during a long load. The user's
     // input stays queued: a menu must not replace the model while it is being loaded.
     virtual void LetEventsRun() {}
