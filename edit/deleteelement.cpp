@@ -4,9 +4,6 @@
 #include "modelhost.h"
 #include "piggybacknumber.h"
 
-#include <iterator>
-#include <limits>
-
 namespace {
 
 constexpr const char* kElementSpin = "upd_3_elem";
@@ -23,9 +20,13 @@ uint8_t AfterRemoval(uint8_t reference, int gone) {
     return reference;
 }
 
+// Numbers from position `first` on; as when a file is read, an entry whose Number would not fit
+// 16 bits (elements 328 and up of a damaged file) gets 0.
 void RenumberFrom(ElementList& list, int element, int first) {
-    for (size_t j = static_cast<size_t>(first); j < list.Items.size(); ++j)
-        list.Items[j].Number = MakeNumber(element, static_cast<int>(j));
+    for (size_t j = static_cast<size_t>(first); j < list.Items.size(); ++j) {
+        const int number = element * kNumberPositions + static_cast<int>(j);
+        list.Items[j].Number = number <= kHighestNumber ? static_cast<int16_t>(number) : 0;
+    }
 }
 
 template <typename T> void EraseEntry(std::vector<T>& table, int index) {
@@ -90,8 +91,7 @@ void Delete_Piggyback(model& m, int16_t number) {
     if (ref.position > list.Count - 1) {
         // The element comes from the panel's spin, as the panel shows it.
         const int selected = Host().SpinValue(kElementSpin) * kNumberPositions + list.Count - 1;
-        const bool fits = selected >= std::numeric_limits<int16_t>::min() &&
-                          selected <= std::numeric_limits<int16_t>::max();
+        const bool fits = selected >= 0 && selected <= kHighestNumber;
         m.m_currelem = fits ? static_cast<int16_t>(selected) : int16_t{-1};
         Host().SetSpinValue(kPiggybackSpin, list.Count - 1);
     }

@@ -15,6 +15,7 @@ constexpr int kCoordinateMax = std::numeric_limits<int16_t>::max();
 constexpr int kHighestNamedNode = 255;
 // A Number holds positions 0 to 99 of an element; elements 0 to 254 can be named by PART.
 constexpr int kNumberPositions = 100;
+constexpr int kHighestNumber = std::numeric_limits<int16_t>::max();
 constexpr int kMaxElements = 255;
 constexpr int kMaxCorners = 255;
 

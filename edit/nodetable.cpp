@@ -73,6 +73,11 @@ void AddNode(model& m) {
     FileRecord* file = EditableFile(m);
     if (file == nullptr)
         return;
+    if (file->NumNodes < 0) {
+        ShowMessage("The node count of this file is damaged (" + std::to_string(file->NumNodes) +
+                    "). No node was added.");
+        return;
+    }
     if (file->NumNodes > kHighestNamedNode) {
         ShowMessage(kTooManyNodes);
         return;
