@@ -16,9 +16,6 @@ namespace {
 constexpr const char* kTooManyEntries = "Error in MOX file.  Around element number: ";
 constexpr const char* kBadTexture = "Cannot load texture. Must be a PCX file!";
 
-// The hardpoint codes that fill HP(1) to HP(6), in slot order.
-constexpr uint8_t kHardpointCodes[] = {25, 26, 27, 28, 29, 10};
-
 // Array sizes follow the counts; a negative count sizes as 0.
 size_t SizeFor(int count) {
     return static_cast<size_t>(std::max(count, 0));
@@ -91,13 +88,10 @@ void ReadTables(MoxInput& file, FileRecord& record) {
 // A hardpoint entry copies the node at its first corner into the HP slot of its code; a node
 // outside Nodes leaves the slot as it was.
 void NoteHardpoint(FileRecord& record, const Piggyback& entry) {
-    const auto* code =
-        std::find(std::begin(kHardpointCodes), std::end(kHardpointCodes), entry.Att1);
-    if (code == std::end(kHardpointCodes))
-        return;
+    const int slot = HardpointSlot(entry.Att1);
     const size_t node = entry.NodeList[0];
-    if (node < record.Nodes.size())
-        record.HP[1 + (code - std::begin(kHardpointCodes))] = record.Nodes[node];
+    if (slot > 0 && node < record.Nodes.size())
+        record.HP[slot] = record.Nodes[node];
 }
 
 void SetNumber(Piggyback& entry, int element, int position) {
