@@ -52,7 +52,9 @@ void ReadTables(MoxInput& file, FileRecord& record) {
     record.Elements.resize(SizeFor(record.NumElements) + 1);
     record.Nodes.resize(SizeFor(record.NumNodes) + 1);
 
-    for (int p = 0; p < record.NumParts - 1; ++p) {
+    // The arrays start as zeros, which is all a read beyond the end of the file would give them:
+    // the loops stop there, so that a short file with large counts costs no more than its bytes.
+    for (int p = 0; p < record.NumParts - 1 && !file.RunOut(); ++p) {
         Part& part = record.Parts[p];
         part.Code = file.ReadByte();
         part.Num = file.ReadByte();
@@ -60,7 +62,7 @@ void ReadTables(MoxInput& file, FileRecord& record) {
         part.Z = file.ReadInt16();
         part.X = file.ReadInt16();
     }
-    for (int i = 0; i < record.NumElements; ++i) {
+    for (int i = 0; i < record.NumElements && !file.RunOut(); ++i) {
         NRMRecord& plane = record.NRM[i];
         plane.Y = file.ReadInt16();
         plane.Z = file.ReadInt16();
@@ -70,18 +72,18 @@ void ReadTables(MoxInput& file, FileRecord& record) {
     }
     record.Root[0] = file.ReadByte();
     record.Root[1] = file.ReadByte();
-    for (int i = 0; i < record.NumElements; ++i) {
+    for (int i = 0; i < record.NumElements && !file.RunOut(); ++i) {
         record.PART[i][0] = file.ReadByte();
         record.PART[i][1] = file.ReadByte();
     }
-    for (int n = 0; n < record.NumNodes; ++n) {
+    for (int n = 0; n < record.NumNodes && !file.RunOut(); ++n) {
         Node& node = record.Nodes[n];
         node.Y = file.ReadInt16();
         node.Z = file.ReadInt16();
         node.X = file.ReadInt16();
         node.B = file.ReadInt16();
     }
-    for (int i = 0; i < record.NumElements; ++i)
+    for (int i = 0; i < record.NumElements && !file.RunOut(); ++i)
         record.Offsets[i] = file.ReadInt16();
 }
 
