@@ -16,8 +16,8 @@
 namespace {
 
 constexpr int kInterruptedSaves = 100;
-constexpr size_t kContentsSize = 256 * 1024;
-constexpr unsigned kLongestSpin = 2000000;
+constexpr size_t kContentsSize = 64 * 1024;
+constexpr unsigned kLongestSpin = 300000;
 
 std::string Contents(const std::string& path) {
     std::ifstream in(path, std::ios::binary);
