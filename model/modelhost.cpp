@@ -24,5 +24,5 @@ void SetHost(ModelHost* host) {
 }
 
 void ShowMessage(const std::string& text, MessageIcon icon) {
-    Host().ShowMessage(text, MessageButtons::Ok, icon, "Skylathe");
+    Host().ShowMessage(text, MessageButtons::Ok, icon, kProgramTitle);
 }

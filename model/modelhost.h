@@ -62,6 +62,11 @@ public:
     virtual void LetEventsRun() {}
 };
 
+// The program's name: the title of its message boxes, and the front of the window title
+// ("Skylathe - PLANEF.MOX") once a file is open.
+inline constexpr const char* kProgramTitle = "Skylathe";
+inline constexpr const char* kTitlePrefix = "Skylathe - ";
+
 // The host the model layer talks to. Without one set, messages are dropped and questions are
 // answered No (Ok for a plain message), which is what a program without a window needs.
 ModelHost& Host();

@@ -22,7 +22,6 @@ constexpr const char* kNoProjectFile =
     "No project file is open. Create one with \"Create Project\" on the 3-View Data tab.";
 constexpr const char* kProjectNotWritten =
     "Could not write the project file. The file on disk was left as it was.";
-constexpr const char* kTitlePrefix = "Skylathe - ";
 constexpr int kViewImageSlot = 7;
 constexpr std::size_t kHFamilyRows = 4;
 
