@@ -42,6 +42,9 @@ void Draw_3Views(const BackdropSource& box) {
     if (!FitsWord(x1) || !FitsWord(y1) || !FitsWord(z0))
         return;
 
+    // Culling chooses the drawing a view shows; the model painter turns it on for good, but a
+    // project without a model file has no model painted before the drawings.
+    glEnable(GL_CULL_FACE);
     glEnable(GL_TEXTURE_2D);
     glPolygonMode(GL_FRONT, GL_FILL);
     glEnable(GL_DEPTH_TEST);

@@ -1,0 +1,200 @@
+// The six orthographic cameras and the 3-view backdrops, read back from the GL view: where each
+// side of the model lands on screen, which drawing each view shows, and what lies in front.
+#include "currentmodel.h"
+#include "drawscene.h"
+#include "editorfixture.h"
+#include "oglgraphics.h"
+#include "orthocamera.h"
+#include "programstate.h"
+#include "viewsettings.h"
+
+#include <array>
+#include <cmath>
+#include <string>
+
+namespace {
+
+constexpr float kStartZoom = 125.0f;
+constexpr int kTextured = 5;
+constexpr int16_t kMarkerDistance = 40;
+const Rgb kWhite{255, 255, 255};
+const Rgb kRed{255, 0, 0};
+const Rgb kGreen{0, 255, 0};
+const Rgb kBlue{0, 0, 255};
+const Rgb kYellow{255, 255, 0};
+const Rgb kSky{177, 228, 254};
+
+using Axis = std::array<int, 3>;
+
+// A camera as the user knows it: the side it looks from and the model axes that point to the
+// right of and up the screen.
+struct Camera {
+    const char* name;
+    int32_t mode;
+    Axis seenFrom;
+    Axis right;
+    Axis up;
+};
+
+const Camera kCameras[] = {
+    {"Left", kLeftView, {0, -1, 0}, {1, 0, 0}, {0, 0, 1}},
+    {"Top", kTopView, {0, 0, 1}, {1, 0, 0}, {0, 1, 0}},
+    {"Front", kFrontView, {-1, 0, 0}, {0, -1, 0}, {0, 0, 1}},
+    {"Underside", kUndersideView, {0, 0, -1}, {1, 0, 0}, {0, -1, 0}},
+    {"Right", kRightView, {0, 1, 0}, {-1, 0, 0}, {0, 0, 1}},
+    {"Back", kBackView, {1, 0, 0}, {0, 1, 0}, {0, 0, 1}},
+};
+
+int Dot(const Axis& axis, const std::array<double, 3>& point) {
+    return static_cast<int>(axis[0] * point[0] + axis[1] * point[1] + axis[2] * point[2]);
+}
+
+// Where a model point lands in a frame of `camera` at the start zoom: the view is 250 units high
+// and centred on the origin.
+QPoint Expected(const Camera& camera, const QImage& frame, std::array<double, 3> point) {
+    const double pixelsPerUnit = frame.height() / (2.0 * kStartZoom);
+    return {static_cast<int>(
+                std::lround(frame.width() / 2.0 + Dot(camera.right, point) * pixelsPerUnit)),
+            static_cast<int>(
+                std::lround(frame.height() / 2.0 - Dot(camera.up, point) * pixelsPerUnit))};
+}
+
+void ShowView(const Camera& camera) {
+    View().ViewMode = camera.mode;
+    float zoom = kStartZoom;
+    float x = 0.0f;
+    float y = 0.0f;
+    SetOrtho(zoom, x, y);
+}
+
+// A closed box of six squares around the origin, each stored clockwise as seen from outside.
+TestFile Cube(int16_t half, int32_t texture) {
+    TestFile file;
+    file.record.TextureID = texture;
+    std::vector<Piggyback> faces;
+    for (int axis = 0; axis < 3; ++axis) {
+        for (int sign : {1, -1}) {
+            const int u = (axis + 1) % 3;
+            const int v = (axis + 2) % 3;
+            // Counter-clockwise from outside, then reversed to the stored order.
+            const int turn[4][2] = {{-1, -1}, {1, -1}, {1, 1}, {-1, 1}};
+            std::vector<uint8_t> nodes;
+            for (int corner = 3; corner >= 0; --corner) {
+                std::array<int16_t, 3> at{};
+                at[static_cast<size_t>(axis)] = static_cast<int16_t>(sign * half);
+                at[static_cast<size_t>(u)] = static_cast<int16_t>(turn[corner][0] * half);
+                at[static_cast<size_t>(v)] = static_cast<int16_t>(sign * turn[corner][1] * half);
+                nodes.push_back(file.AddNode(at[0], at[1], at[2]));
+            }
+            faces.push_back(Polygon(kTextured, nodes));
+        }
+    }
+    file.AddElement(faces);
+    return file;
+}
+
+} // namespace
+
+TEST_F(EditorTest, EachOrthographicViewShowsTheModelFromItsSide) {
+    ASSERT_TRUE(OGL().MakeCurrent());
+    // A white cube at the origin and a red, a green and a blue one 40 units out along X, Y, Z.
+    const Rgb colours[] = {kRed, kGreen, kBlue};
+    std::vector<FileRecord> files{Cube(6, SolidTexture(255, 255, 255)).record};
+    for (int axis = 0; axis < 3; ++axis) {
+        const Rgb& colour = colours[axis];
+        files.push_back(Cube(6, SolidTexture(static_cast<uint8_t>(colour.red),
+                                             static_cast<uint8_t>(colour.green),
+                                             static_cast<uint8_t>(colour.blue)))
+                            .record);
+    }
+    InstallFamily(files);
+    std::array<Node, 8>& hardpoints = CurrentModel().Files[0].HP;
+    hardpoints[1].X = kMarkerDistance;
+    hardpoints[2].Y = kMarkerDistance;
+    hardpoints[3].Z = kMarkerDistance;
+
+    for (const Camera& camera : kCameras) {
+        ShowView(camera);
+        const QImage frame = ReadFrame();
+        for (int axis = 0; axis < 3; ++axis) {
+            std::array<double, 3> marker{};
+            marker[static_cast<size_t>(axis)] = kMarkerDistance;
+            const QPoint at = Expected(camera, frame, marker);
+            // A marker on the line of sight stands in front of the white cube when it lies on
+            // the side the view is seen from, and behind it otherwise.
+            const int towardEye = Dot(camera.seenFrom, marker);
+            const Rgb expected = towardEye < 0 ? kWhite : colours[axis];
+            EXPECT_EQ(PixelAt(frame, at.x(), at.y()), expected)
+                << camera.name << " view, marker on axis " << axis << " at " << at.x() << ","
+                << at.y();
+        }
+    }
+}
+
+TEST_F(EditorTest, EachDrawingShowsInItsOwnViewAndSpanZeroFoldsTwo) {
+    ASSERT_TRUE(OGL().MakeCurrent());
+    ProjectRecord& project = Program().ProjectData;
+    project.TopImage = SolidTexture(255, 0, 0);
+    project.FrontImage = SolidTexture(0, 255, 0);
+    project.LeftImage = SolidTexture(0, 0, 255);
+    project.Length = 100;
+    project.Height = 60;
+    project.TopLeftX = -50;
+    project.TopLeftZ = 30;
+
+    struct Row {
+        int16_t span;
+        Rgb top, left, front, underside, right, back;
+    };
+    const Row rows[] = {
+        {80, kRed, kBlue, kGreen, kSky, kSky, kSky},
+        // The Top and Front drawings fold to a line; the Left one stays.
+        {0, kSky, kBlue, kSky, kSky, kSky, kSky},
+    };
+    for (const Row& row : rows) {
+        project.Span = row.span;
+        project.TopLeftY = static_cast<int16_t>(-row.span / 2);
+        const std::pair<int32_t, Rgb> views[] = {
+            {kTopView, row.top},     {kLeftView, row.left},
+            {kFrontView, row.front}, {kUndersideView, row.underside},
+            {kRightView, row.right}, {kBackView, row.back}};
+        for (const auto& [mode, expected] : views) {
+            ShowView(kCameras[mode]);
+            const QImage frame = ReadFrame();
+            EXPECT_EQ(PixelAt(frame, frame.width() / 2, frame.height() / 2), expected)
+                << kCameras[mode].name << " view, span " << row.span;
+        }
+    }
+}
+
+TEST_F(EditorTest, TheTopDrawingLiesBehindTheModelAndOutOfAPickingPass) {
+    ASSERT_TRUE(OGL().MakeCurrent());
+    ProjectRecord& project = Program().ProjectData;
+    project.TopImage = SolidTexture(255, 0, 0);
+    project.Span = 80;
+    project.Length = 100;
+    project.Height = 60;
+    project.TopLeftX = -50;
+    project.TopLeftY = -40;
+    project.TopLeftZ = 30;
+    // A yellow square in the middle of the box, facing up, painted before the drawing.
+    TestFile file;
+    file.record.TextureID = SolidTexture(255, 255, 0);
+    const uint8_t corners[] = {file.AddNode(-10, -10, 0), file.AddNode(-10, 10, 0),
+                               file.AddNode(10, 10, 0), file.AddNode(10, -10, 0)};
+    file.AddElement({Polygon(kTextured, {corners[0], corners[1], corners[2], corners[3]})});
+    InstallFamily({file.record});
+    const Camera& top = kCameras[kTopView];
+    ShowView(top);
+
+    QImage frame = ReadFrame();
+    const QPoint model = Expected(top, frame, {0, 0, 0});
+    const QPoint drawing = Expected(top, frame, {30, 30, 0});
+    EXPECT_EQ(PixelAt(frame, model.x(), model.y()), kYellow);
+    EXPECT_EQ(PixelAt(frame, drawing.x(), drawing.y()), kRed);
+
+    CurrentModel().RenderType = true;
+    frame = ReadFrame();
+    EXPECT_EQ(PixelAt(frame, model.x(), model.y()), kYellow);
+    EXPECT_EQ(PixelAt(frame, drawing.x(), drawing.y()), kSky);
+}
