@@ -6,15 +6,21 @@
 #include "oglgraphics.h"
 #include "orthocamera.h"
 #include "programstate.h"
+#include "tempdir.h"
 #include "viewsettings.h"
 
 #include <array>
 #include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
 #include <string>
 
 namespace {
 
 constexpr float kStartZoom = 125.0f;
+// Far enough out for the sample's box to fit the width of the view.
+constexpr float kWholeBoxZoom = 220.0f;
 constexpr int kTextured = 5;
 constexpr int16_t kMarkerDistance = 40;
 const Rgb kWhite{255, 255, 255};
@@ -51,17 +57,17 @@ int Dot(const Axis& axis, const std::array<double, 3>& point) {
 
 // Where a model point lands in a frame of `camera` at the start zoom: the view is 250 units high
 // and centred on the origin.
-QPoint Expected(const Camera& camera, const QImage& frame, std::array<double, 3> point) {
-    const double pixelsPerUnit = frame.height() / (2.0 * kStartZoom);
+QPoint Expected(const Camera& camera, const QImage& frame, std::array<double, 3> point,
+                float zoom = kStartZoom) {
+    const double pixelsPerUnit = frame.height() / (2.0 * zoom);
     return {static_cast<int>(
                 std::lround(frame.width() / 2.0 + Dot(camera.right, point) * pixelsPerUnit)),
             static_cast<int>(
                 std::lround(frame.height() / 2.0 - Dot(camera.up, point) * pixelsPerUnit))};
 }
 
-void ShowView(const Camera& camera) {
+void ShowView(const Camera& camera, float zoom = kStartZoom) {
     View().ViewMode = camera.mode;
-    float zoom = kStartZoom;
     float x = 0.0f;
     float y = 0.0f;
     SetOrtho(zoom, x, y);
@@ -197,4 +203,56 @@ TEST_F(EditorTest, TheTopDrawingLiesBehindTheModelAndOutOfAPickingPass) {
     frame = ReadFrame();
     EXPECT_EQ(PixelAt(frame, model.x(), model.y()), kYellow);
     EXPECT_EQ(PixelAt(frame, drawing.x(), drawing.y()), kSky);
+}
+
+TEST_F(EditorTest, TheSampleProjectMovedToAnotherFolderShowsItsDrawingsAroundTheFighter) {
+    ASSERT_TRUE(OGL().MakeCurrent());
+    // The sample's files in a folder of their own, named in the project without a folder.
+    const std::string sample = std::string(SAMPLE_DIR) + "/";
+    TempDir moved;
+    for (const char* name : {"PDEMOF.MOX", "PDEMOC.MOX", "PDEMOE.MOX", "PDEMOG.MOX", "PDEMO.PCX",
+                             "PDEMO_TOP.PCX", "PDEMO_LEFT.PCX", "PDEMO_FRONT.PCX"})
+        std::filesystem::copy_file(sample + name, moved.file(name));
+    std::stringstream text;
+    text << std::ifstream(sample + "PDEMO.3VW", std::ios::binary).rdbuf();
+    std::string project = text.str();
+    for (size_t at; (at = project.find(sample)) != std::string::npos;)
+        project.erase(at, sample.size());
+    std::ofstream(moved.file("PDEMO.3VW"), std::ios::binary) << project;
+
+    CurrentModel().LoadProject(moved.file("PDEMO.3VW"));
+    EXPECT_TRUE(host.messages.empty());
+    for (size_t slot : {0, 3, 4, 5})
+        EXPECT_TRUE(CurrentModel().Files[slot].Loaded) << "slot " << slot;
+    const ProjectRecord& box = Program().ProjectData;
+    const double x0 = box.TopLeftX, x1 = box.TopLeftX + box.Length;
+    const double y0 = box.TopLeftY, y1 = box.TopLeftY + box.Span;
+    const double z0 = box.TopLeftZ - box.Height, z1 = box.TopLeftZ;
+    // Two corners of the face each view shows, seen from the eye: just inside them the drawing,
+    // just outside the sky.
+    struct Face {
+        int32_t mode;
+        std::array<double, 3> low, high;
+    };
+    const Face faces[] = {{kTopView, {x0, y0, z0}, {x1, y1, z0}},
+                          {kLeftView, {x0, y1, z0}, {x1, y1, z1}},
+                          {kFrontView, {x1, y0, z0}, {x1, y1, z1}}};
+    for (const Face& face : faces) {
+        const Camera& camera = kCameras[face.mode];
+        ShowView(camera, kWholeBoxZoom);
+        const QImage frame = ReadFrame();
+        for (const auto& [corner, inward] :
+             {std::pair{face.low, 1.0}, std::pair{face.high, -1.0}}) {
+            for (const double step : {2.0, -3.0}) {
+                std::array<double, 3> at = corner;
+                for (size_t axis = 0; axis < 3; ++axis) {
+                    if (face.low[axis] != face.high[axis])
+                        at[axis] += inward * step;
+                }
+                const QPoint pixel = Expected(camera, frame, at, kWholeBoxZoom);
+                EXPECT_EQ(PixelAt(frame, pixel.x(), pixel.y()) == kSky, step < 0)
+                    << camera.name << " view at " << at[0] << "," << at[1] << "," << at[2];
+            }
+        }
+    }
 }
