@@ -44,7 +44,7 @@ public:
                     Add(entry);
             }
         } else {
-            memberwise::ForEachMember(value, [this](const auto& member) { Add(member); });
+            memberwise::ForEachMember(value, [&](const auto& member) { Add(member); });
         }
     }
 
