@@ -105,14 +105,9 @@ TEST_F(EditorTest, EachOrthographicViewShowsTheModelFromItsSide) {
     ASSERT_TRUE(OGL().MakeCurrent());
     // A white cube at the origin and a red, a green and a blue one 40 units out along X, Y, Z.
     const Rgb colours[] = {kRed, kGreen, kBlue};
-    std::vector<FileRecord> files{Cube(6, SolidTexture(255, 255, 255)).record};
-    for (int axis = 0; axis < 3; ++axis) {
-        const Rgb& colour = colours[axis];
-        files.push_back(Cube(6, SolidTexture(static_cast<uint8_t>(colour.red),
-                                             static_cast<uint8_t>(colour.green),
-                                             static_cast<uint8_t>(colour.blue)))
-                            .record);
-    }
+    std::vector<FileRecord> files{Cube(6, StripTexture({kWhite})).record};
+    for (const Rgb& colour : colours)
+        files.push_back(Cube(6, StripTexture({colour})).record);
     InstallFamily(files);
     std::array<Node, 8>& hardpoints = CurrentModel().Files[0].HP;
     hardpoints[1].X = kMarkerDistance;
@@ -137,72 +132,50 @@ TEST_F(EditorTest, EachOrthographicViewShowsTheModelFromItsSide) {
     }
 }
 
-TEST_F(EditorTest, EachDrawingShowsInItsOwnViewAndSpanZeroFoldsTwo) {
+TEST_F(EditorTest, EachDrawingShowsBehindTheModelInItsOwnViewAndSpanZeroFoldsTwo) {
     ASSERT_TRUE(OGL().MakeCurrent());
     ProjectRecord& project = Program().ProjectData;
-    project.TopImage = SolidTexture(255, 0, 0);
-    project.FrontImage = SolidTexture(0, 255, 0);
-    project.LeftImage = SolidTexture(0, 0, 255);
+    project.TopImage = StripTexture({kRed});
+    project.FrontImage = StripTexture({kGreen});
+    project.LeftImage = StripTexture({kBlue});
     project.Length = 100;
     project.Height = 60;
     project.TopLeftX = -50;
     project.TopLeftZ = 30;
-
-    struct Row {
-        int16_t span;
-        Rgb top, left, front, underside, right, back;
-    };
-    const Row rows[] = {
-        {80, kRed, kBlue, kGreen, kSky, kSky, kSky},
+    // Drawings by view: Top, Left, Front, Underside, Right, Back.
+    const std::pair<int16_t, std::array<Rgb, 6>> rows[] = {
+        {80, {kRed, kBlue, kGreen, kSky, kSky, kSky}},
         // The Top and Front drawings fold to a line; the Left one stays.
-        {0, kSky, kBlue, kSky, kSky, kSky, kSky},
+        {0, {kSky, kBlue, kSky, kSky, kSky, kSky}},
     };
-    for (const Row& row : rows) {
-        project.Span = row.span;
-        project.TopLeftY = static_cast<int16_t>(-row.span / 2);
-        const std::pair<int32_t, Rgb> views[] = {
-            {kTopView, row.top},     {kLeftView, row.left},
-            {kFrontView, row.front}, {kUndersideView, row.underside},
-            {kRightView, row.right}, {kBackView, row.back}};
-        for (const auto& [mode, expected] : views) {
-            ShowView(kCameras[mode]);
+    for (const auto& [span, seen] : rows) {
+        project.Span = span;
+        project.TopLeftY = static_cast<int16_t>(-span / 2);
+        const int32_t modes[] = {kTopView,       kLeftView,  kFrontView,
+                                 kUndersideView, kRightView, kBackView};
+        for (size_t view = 0; view < seen.size(); ++view) {
+            ShowView(kCameras[modes[view]]);
             const QImage frame = ReadFrame();
-            EXPECT_EQ(PixelAt(frame, frame.width() / 2, frame.height() / 2), expected)
-                << kCameras[mode].name << " view, span " << row.span;
+            EXPECT_EQ(PixelAt(frame, frame.width() / 2, frame.height() / 2), seen[view])
+                << kCameras[modes[view]].name << " view, span " << span;
         }
     }
-}
 
-TEST_F(EditorTest, TheTopDrawingLiesBehindTheModelAndOutOfAPickingPass) {
-    ASSERT_TRUE(OGL().MakeCurrent());
-    ProjectRecord& project = Program().ProjectData;
-    project.TopImage = SolidTexture(255, 0, 0);
+    // A yellow cube inside the box is painted over the Top drawing; a picking pass paints no
+    // drawing at all.
     project.Span = 80;
-    project.Length = 100;
-    project.Height = 60;
-    project.TopLeftX = -50;
     project.TopLeftY = -40;
-    project.TopLeftZ = 30;
-    // A yellow square in the middle of the box, facing up, painted before the drawing.
-    TestFile file;
-    file.record.TextureID = SolidTexture(255, 255, 0);
-    const uint8_t corners[] = {file.AddNode(-10, -10, 0), file.AddNode(-10, 10, 0),
-                               file.AddNode(10, 10, 0), file.AddNode(10, -10, 0)};
-    file.AddElement({Polygon(kTextured, {corners[0], corners[1], corners[2], corners[3]})});
-    InstallFamily({file.record});
+    InstallFamily({Cube(10, StripTexture({kYellow})).record});
     const Camera& top = kCameras[kTopView];
     ShowView(top);
-
-    QImage frame = ReadFrame();
-    const QPoint model = Expected(top, frame, {0, 0, 0});
-    const QPoint drawing = Expected(top, frame, {30, 30, 0});
-    EXPECT_EQ(PixelAt(frame, model.x(), model.y()), kYellow);
-    EXPECT_EQ(PixelAt(frame, drawing.x(), drawing.y()), kRed);
-
-    CurrentModel().RenderType = true;
-    frame = ReadFrame();
-    EXPECT_EQ(PixelAt(frame, model.x(), model.y()), kYellow);
-    EXPECT_EQ(PixelAt(frame, drawing.x(), drawing.y()), kSky);
+    for (const bool picking : {false, true}) {
+        CurrentModel().RenderType = picking;
+        const QImage frame = ReadFrame();
+        const QPoint model = Expected(top, frame, {0, 0, 0});
+        const QPoint drawing = Expected(top, frame, {30, 30, 0});
+        EXPECT_EQ(PixelAt(frame, model.x(), model.y()), kYellow);
+        EXPECT_EQ(PixelAt(frame, drawing.x(), drawing.y()), picking ? kSky : kRed);
+    }
 }
 
 TEST_F(EditorTest, TheSampleProjectMovedToAnotherFolderShowsItsDrawingsAroundTheFighter) {

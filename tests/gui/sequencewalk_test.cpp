@@ -7,7 +7,6 @@
 #include "orthocamera.h"
 #include "viewsettings.h"
 
-#include <GL/gl.h>
 #include <QTest>
 
 #include <algorithm>
@@ -21,24 +20,8 @@ constexpr int kTextured = 5;
 constexpr int16_t kUnitNormal = 16384;
 const Rgb kSky{177, 228, 254};
 // Element 0 red, 1 green, 2 blue: the texels of a strip texture, one per element.
-const std::array<Rgb, 3> kElementColours{{{255, 0, 0}, {0, 255, 0}, {0, 0, 255}}};
+const std::vector<Rgb> kElementColours{{255, 0, 0}, {0, 255, 0}, {0, 0, 255}};
 constexpr std::array<uint8_t, 3> kTexelMap{42, 127, 212};
-
-int32_t StripTexture() {
-    std::vector<uint8_t> texels;
-    for (const Rgb& colour : kElementColours)
-        texels.insert(texels.end(),
-                      {static_cast<uint8_t>(colour.red), static_cast<uint8_t>(colour.green),
-                       static_cast<uint8_t>(colour.blue)});
-    GLuint name = 0;
-    glGenTextures(1, &name);
-    glBindTexture(GL_TEXTURE_2D, name);
-    glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
-    glTexImage2D(GL_TEXTURE_2D, 0, GL_RGB, 3, 1, 0, GL_RGB, GL_UNSIGNED_BYTE, texels.data());
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
-    return static_cast<int32_t>(name);
-}
 
 // Three squares in the plane Y = 0 that overlap pairwise, element e in the colour of texel e:
 // element 1 on the left, element 0 on the right, element 2 above both. Element 0 is the root with
@@ -104,7 +87,7 @@ TEST_F(EditorTest, TheTreeOrdersItsElementsByTheSideOfThePlaneTheEyeIsOn) {
     const Overlap overlaps[] = {{{0, 0, -3}, 1, 0}, {{-4, 0, 4}, 1, 2}, {{4, 0, 4}, 0, 2}};
 
     TestFile file = ThreeElementTree();
-    file.record.TextureID = StripTexture();
+    file.record.TextureID = StripTexture(kElementColours);
     InstallFamily({file.record});
     View().mnu_v_rs = true;
     ShowLeftView();
