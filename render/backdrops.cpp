@@ -32,7 +32,7 @@ void Face(GLuint image, const Corner (&corners)[4]) {
 
 } // namespace
 
-void Draw_3Views(const BackdropSource& box) {
+void Draw_3Views(const ProjectRecord& box) {
     const int x0 = box.TopLeftX;
     const int x1 = box.TopLeftX + box.Length;
     const int y0 = box.TopLeftY;

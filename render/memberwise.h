@@ -28,7 +28,7 @@ template <typename T, std::size_t Counted = 0> constexpr std::size_t MemberCount
         return Counted;
 }
 
-inline constexpr std::size_t kMostMembers = 24;
+inline constexpr std::size_t kMostMembers = 32;
 
 // Calls `visit` on each member of `value`.
 template <typename T, typename Visit> void ForEachMember(T& value, Visit&& visit) {
@@ -108,6 +108,41 @@ template <typename T, typename Visit> void ForEachMember(T& value, Visit&& visit
     } else if constexpr (count == 24) {
         auto& [a, b, c, d, e, f, g, h, i, j, k, l, m, n, o, p, q, r, s, t, u, v, w, x] = value;
         all(a, b, c, d, e, f, g, h, i, j, k, l, m, n, o, p, q, r, s, t, u, v, w, x);
+    } else if constexpr (count == 25) {
+        auto& [a, b, c, d, e, f, g, h, i, j, k, l, m, n, o, p, q, r, s, t, u, v, w, x, y] = value;
+        all(a, b, c, d, e, f, g, h, i, j, k, l, m, n, o, p, q, r, s, t, u, v, w, x, y);
+    } else if constexpr (count == 26) {
+        auto& [a, b, c, d, e, f, g, h, i, j, k, l, m, n, o, p, q, r, s, t, u, v, w, x, y, z] =
+            value;
+        all(a, b, c, d, e, f, g, h, i, j, k, l, m, n, o, p, q, r, s, t, u, v, w, x, y, z);
+    } else if constexpr (count == 27) {
+        auto& [a, b, c, d, e, f, g, h, i, j, k, l, m, n, o, p, q, r, s, t, u, v, w, x, y, z, a2] =
+            value;
+        all(a, b, c, d, e, f, g, h, i, j, k, l, m, n, o, p, q, r, s, t, u, v, w, x, y, z, a2);
+    } else if constexpr (count == 28) {
+        auto& [a, b, c, d, e, f, g, h, i, j, k, l, m, n, o, p, q, r, s, t, u, v, w, x, y, z, a2,
+               b2] = value;
+        all(a, b, c, d, e, f, g, h, i, j, k, l, m, n, o, p, q, r, s, t, u, v, w, x, y, z, a2, b2);
+    } else if constexpr (count == 29) {
+        auto& [a, b, c, d, e, f, g, h, i, j, k, l, m, n, o, p, q, r, s, t, u, v, w, x, y, z, a2, b2,
+               c2] = value;
+        all(a, b, c, d, e, f, g, h, i, j, k, l, m, n, o, p, q, r, s, t, u, v, w, x, y, z, a2, b2,
+            c2);
+    } else if constexpr (count == 30) {
+        auto& [a, b, c, d, e, f, g, h, i, j, k, l, m, n, o, p, q, r, s, t, u, v, w, x, y, z, a2, b2,
+               c2, d2] = value;
+        all(a, b, c, d, e, f, g, h, i, j, k, l, m, n, o, p, q, r, s, t, u, v, w, x, y, z, a2, b2,
+            c2, d2);
+    } else if constexpr (count == 31) {
+        auto& [a, b, c, d, e, f, g, h, i, j, k, l, m, n, o, p, q, r, s, t, u, v, w, x, y, z, a2, b2,
+               c2, d2, e2] = value;
+        all(a, b, c, d, e, f, g, h, i, j, k, l, m, n, o, p, q, r, s, t, u, v, w, x, y, z, a2, b2,
+            c2, d2, e2);
+    } else if constexpr (count == 32) {
+        auto& [a, b, c, d, e, f, g, h, i, j, k, l, m, n, o, p, q, r, s, t, u, v, w, x, y, z, a2, b2,
+               c2, d2, e2, f2] = value;
+        all(a, b, c, d, e, f, g, h, i, j, k, l, m, n, o, p, q, r, s, t, u, v, w, x, y, z, a2, b2,
+            c2, d2, e2, f2);
     }
 }
 

@@ -64,7 +64,7 @@ void Draw(const FrameSource& source) {
     });
     // Neither a picking pass nor the perspective view shows the backdrops.
     PassOverFailure([&] {
-        if (!current.RenderType && !perspective)
-            Draw_3Views(source.backdrop);
+        if (!current.RenderType && !perspective && source.project != nullptr)
+            Draw_3Views(*source.project);
     });
 }
