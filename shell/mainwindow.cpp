@@ -22,6 +22,8 @@
 #include <QScreen>
 #include <QToolBar>
 
+#include <functional>
+
 namespace {
 
 constexpr const char* kTitle = "Skylathe";
@@ -46,6 +48,15 @@ bool RecentCaption(const std::string& entry, int i, QString& caption) {
         return false;
     caption = QStringLiteral("&%1  %2").arg(i + 1).arg(BareNameOnDisk(entry));
     return true;
+}
+
+// A new model, then `open` on it, with the GL context current for its textures; a message that
+// repeats within the load shows once.
+void OpenIntoNewModel(const std::function<void(model&)>& open) {
+    const RepeatedMessages oneLoad;
+    ReplaceCurrentModel();
+    OGL().MakeCurrent();
+    open(CurrentModel());
 }
 
 } // namespace
@@ -132,19 +143,12 @@ QString frm_main::AskForFile(bool saving, const char* title, const char* filter)
                   : QFileDialog::getOpenFileName(this, title, QString(), filter);
 }
 
-// A new model, then the load of `fileName`; a message that repeats within the load shows once.
 void frm_main::OpenModel(std::string fileName) {
-    const RepeatedMessages oneLoad;
-    ReplaceCurrentModel();
-    OGL().MakeCurrent();
-    CurrentModel().Load(fileName);
+    OpenIntoNewModel([&fileName](model& opened) { opened.Load(fileName); });
 }
 
 void frm_main::OpenProject(std::string fileName) {
-    const RepeatedMessages oneLoad;
-    ReplaceCurrentModel();
-    OGL().MakeCurrent();
-    CurrentModel().LoadProject(fileName);
+    OpenIntoNewModel([&fileName](model& opened) { opened.LoadProject(fileName); });
 }
 
 void frm_main::mnu_f_load_Click() {
