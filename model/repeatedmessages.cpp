@@ -59,7 +59,8 @@ RepeatedMessages::~RepeatedMessages() {
         if (repeated.count == 0)
             continue;
         std::string summary = repeated.firstText + "\n\nThe same message came " +
-                              std::to_string(repeated.count) + " more times";
+                              std::to_string(repeated.count) +
+                              (repeated.count == 1 ? " more time" : " more times");
         if (!repeated.numbers.empty())
             summary += ", for " + Ranges(repeated.numbers);
         ShowMessage(summary + ".");
