@@ -73,5 +73,6 @@ ModelHost& Host();
 // Sets the host; nullptr restores the silent one. The caller keeps ownership.
 void SetHost(ModelHost* host);
 
-// Shows `text` in an OK box titled "Skylathe".
+// Shows `text` in an OK box titled "Skylathe"; while a RepeatedMessages gate stands, a repeat of
+// a message already shown is counted instead (model/repeatedmessages.h).
 void ShowMessage(const std::string& text, MessageIcon icon = MessageIcon::None);
