@@ -217,12 +217,16 @@ ToolCommand CheckCommand() {
     return {"check", "report what is broken or suspicious in a model file or family", kUsage,
             kDescription, [](CLI::App& command) -> CommandRun {
                 auto options = std::make_shared<CheckOptions>();
-                command.add_option("FILE", options->file, "the model file")->required();
+                command.add_option("FILE", options->file, "the model file")
+                    ->required()
+                    ->type_name("FILE.mox");
                 command.add_flag("--family", options->family,
                                  "check the connected files too, and the hardpoints between them");
                 command.add_flag("--json", options->asJson, "the findings as a JSON array");
-                command.add_option("--fix-planes", options->fixPlanes,
-                                   "write a copy with the wrong planes set from their polygons");
+                command
+                    .add_option("--fix-planes", options->fixPlanes,
+                                "write a copy with the wrong planes set from their polygons")
+                    ->type_name("OUT.mox");
                 return [options] { return RunCheck(*options); };
             }};
 }

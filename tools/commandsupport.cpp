@@ -6,6 +6,8 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
+#include <cctype>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -69,6 +71,13 @@ bool LoadModelFamily(const std::string& path, bool connected, model& family, std
         return false;
     }
     return true;
+}
+
+std::string LowerCaseExtension(const std::string& path) {
+    std::string extension = std::filesystem::path(path).extension().string();
+    std::transform(extension.begin(), extension.end(), extension.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return extension;
 }
 
 bool ReadTextFile(const std::string& path, std::string& text, std::string& error) {

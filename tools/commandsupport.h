@@ -30,6 +30,9 @@ bool ReadModelFile(const std::string& path, FileRecord& record, std::vector<std:
 // the main file of a family. False, with `error`, when the file itself cannot be read.
 bool LoadModelFamily(const std::string& path, bool connected, model& family, std::string& error);
 
+// The extension of `path` with its dot, in lower case: "OUT.GLB" gives ".glb".
+std::string LowerCaseExtension(const std::string& path);
+
 // Reads a whole text file; false with `error` naming the file when it cannot.
 bool ReadTextFile(const std::string& path, std::string& text, std::string& error);
 

@@ -6,8 +6,6 @@
 
 #include <CLI/CLI.hpp>
 
-#include <algorithm>
-#include <cctype>
 #include <filesystem>
 #include <map>
 #include <memory>
@@ -37,9 +35,7 @@ struct ExportOptions {
 enum class Format { Glb, Gltf, Obj, Unknown };
 
 Format FormatOf(const std::string& path) {
-    std::string extension = std::filesystem::path(path).extension().string();
-    std::transform(extension.begin(), extension.end(), extension.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    const std::string extension = LowerCaseExtension(path);
     if (extension == ".glb")
         return Format::Glb;
     if (extension == ".gltf")

@@ -6,7 +6,6 @@
 #include "pngfile.h"
 
 #include <algorithm>
-#include <cctype>
 #include <filesystem>
 #include <iostream>
 
@@ -22,9 +21,7 @@ constexpr const char* kDescription =
 enum class OutputKind { Png, Ppm, Unknown };
 
 OutputKind KindOf(const std::string& path) {
-    std::string extension = std::filesystem::path(path).extension().string();
-    std::transform(extension.begin(), extension.end(), extension.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    const std::string extension = LowerCaseExtension(path);
     if (extension == ".png")
         return OutputKind::Png;
     if (extension == ".ppm")
