@@ -9,7 +9,6 @@
 
 namespace {
 
-constexpr int kLastFamilySlot = 6;
 // Map bytes run 0 to 255 across the whole texture.
 constexpr double kMapDivisor = 255.0;
 constexpr uint8_t kFirstMappedType = kTypeTexturedPoly;
