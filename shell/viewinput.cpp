@@ -240,8 +240,7 @@ void frm_main::RightDrag(float x, float y) {
 }
 
 // Zoom follows the vertical motion only, and keeps only the last height.
-void frm_main::ZoomDrag(float x, float y) {
-    static_cast<void>(x);
+void frm_main::ZoomDrag([[maybe_unused]] float x, float y) {
     if (LastY != kNoPosition) {
         model& current = CurrentModel();
         const float dY = y - LastY;
