@@ -1,11 +1,15 @@
 #include "elementspanel.h"
 
+#include "cornerlist.h"
 #include "currentmodel.h"
+#include "deleteelement.h"
+#include "duplicateelement.h"
 #include "elementsfill.h"
 #include "enterfield.h"
 #include "fieldcommit.h"
 #include "formchecks.h"
 #include "infofields.h"
+#include "kindandmove.h"
 #include "modelhost.h"
 #include "piggybacknumber.h"
 #include "spinwithbuddy.h"
@@ -49,6 +53,15 @@ int16_t FieldItem(const QLineEdit& field) {
     return static_cast<int16_t>(*number);
 }
 
+// The corner count of the selected piggyback, -1 when nothing is selected.
+int CornerCount(const model& current) {
+    if (current.m_currmox < 0 || current.m_currmox >= static_cast<int>(current.Files.size()))
+        return kNone;
+    const Piggyback* item =
+        FindPiggyback(current.Files[static_cast<size_t>(current.m_currmox)], current.m_currelem);
+    return item != nullptr ? item->CRN : kNone;
+}
+
 } // namespace
 
 ElementsPanel::ElementsPanel(QWidget& frame) : QObject(&frame), c_(BuildElementsControls(&frame)) {
@@ -57,6 +70,8 @@ ElementsPanel::ElementsPanel(QWidget& frame) : QObject(&frame), c_(BuildElements
     BindRows();
     BindChecks();
     BindGroupSpins();
+    BindCornerButtons();
+    BindElementButtons();
 }
 
 void ElementsPanel::Fill() {
@@ -247,4 +262,84 @@ void ElementsPanel::GroupSpinChange(GroupColumn column, int value) {
     lastGroupValue_[static_cast<size_t>(column)] = value;
     if (map)
         DrawTextureMap(CurrentModel());
+}
+
+void ElementsPanel::BindCornerButtons() {
+    connect(c_.cbo_3_type, &QComboBox::activated, this, [](int row) {
+        ChangeType(CurrentModel(), static_cast<int16_t>(row));
+        RefillPanel();
+    });
+    connect(c_.cmd_3_moveup, &QPushButton::clicked, this, [this] { cmd_3_moveup_Click(); });
+    connect(c_.cmd_3_movedown, &QPushButton::clicked, this, [this] { cmd_3_movedown_Click(); });
+    connect(c_.cmd_3_add, &QPushButton::clicked, this, [] {
+        AddNodeToElement(CurrentModel());
+        RefillPanel();
+    });
+    connect(c_.cmd_3_delete, &QPushButton::clicked, this, [this] { cmd_3_delete_Click(); });
+}
+
+// Each ticked corner changes places with the one above it, top row first; the ticks go along.
+void ElementsPanel::cmd_3_moveup_Click() {
+    for (int r = 1; r < kElementRows && c_.rows[static_cast<size_t>(r)].select->isEnabled(); ++r) {
+        if (!c_.rows[static_cast<size_t>(r)].select->isChecked())
+            continue;
+        SwapNodes(CurrentModel(), RowCorner(r - 1), RowCorner(r));
+        SwapTicks(r - 1, r);
+    }
+    RefillPanel();
+}
+
+// Each ticked corner changes places with the one below it, bottom row first. A tick on the last
+// corner stays, as there is nothing below it to change with.
+void ElementsPanel::cmd_3_movedown_Click() {
+    for (int r = kElementRows - 2; r >= 0; --r) {
+        if (!RowTicked(r) || !c_.rows[static_cast<size_t>(r + 1)].select->isEnabled())
+            continue;
+        SwapNodes(CurrentModel(), RowCorner(r), RowCorner(r + 1));
+        SwapTicks(r, r + 1);
+    }
+    RefillPanel();
+}
+
+void ElementsPanel::SwapTicks(int first, int second) {
+    QCheckBox& a = *c_.rows[static_cast<size_t>(first)].select;
+    QCheckBox& b = *c_.rows[static_cast<size_t>(second)].select;
+    const bool ticked = a.isChecked();
+    a.setChecked(b.isChecked());
+    b.setChecked(ticked);
+}
+
+// The ticked corners go from the bottom up, so that the positions above stay as shown. When the
+// polygon is down to its last three corners the refusal is shown once and the rest stay.
+void ElementsPanel::cmd_3_delete_Click() {
+    model& current = CurrentModel();
+    for (int r = kElementRows - 1; r >= 0; --r) {
+        if (!RowTicked(r))
+            continue;
+        const int before = CornerCount(current);
+        DeleteNodeFromElement(current, RowCorner(r));
+        if (CornerCount(current) == before)
+            break;
+    }
+    for (ElementRow& row : c_.rows)
+        row.select->setChecked(false);
+    RefillPanel();
+}
+
+void ElementsPanel::BindElementButtons() {
+    connect(c_.cmd_3_newelem, &QPushButton::clicked, this, [] {
+        model& current = CurrentModel();
+        Duplicate_Element(current, false, current.m_currelem);
+        current.WriteInfo(kModelInfoTab);
+        RefillPanel();
+    });
+    connect(c_.cmd_3_newpb, &QPushButton::clicked, this, [] {
+        Duplicate_Element(CurrentModel(), true, CurrentModel().m_currelem);
+        RefillPanel();
+    });
+    // The deletes refill the panels and mend the selection themselves.
+    connect(c_.cmd_3_delelem, &QPushButton::clicked, this,
+            [] { Delete_Element(CurrentModel(), CurrentModel().m_currelem); });
+    connect(c_.cmd_3_delpb, &QPushButton::clicked, this,
+            [] { Delete_Piggyback(CurrentModel(), CurrentModel().m_currelem); });
 }

@@ -37,6 +37,8 @@ private:
     void BindRows();
     void BindChecks();
     void BindGroupSpins();
+    void BindCornerButtons();
+    void BindElementButtons();
 
     // The Number the spins show, upd_3_elem value * 100 + upd_3_pb value; -1 when it does not
     // fit a Number.
@@ -48,6 +50,11 @@ private:
     void chk_3_lock_Click();
     void vsc_3_nodeoffset_Change(int offset);
     void GroupSpinChange(GroupColumn column, int value);
+    void cmd_3_moveup_Click();
+    void cmd_3_movedown_Click();
+    void cmd_3_delete_Click();
+    // The ticks of two rows change places.
+    void SwapTicks(int first, int second);
 
     // The corner position that row `row` shows.
     int16_t RowCorner(int row) const;
