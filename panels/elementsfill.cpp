@@ -1,5 +1,6 @@
 #include "elementsfill.h"
 
+#include "currentmodel.h"
 #include "elementscontrols.h"
 #include "formchecks.h"
 #include "model.h"
@@ -59,12 +60,11 @@ public:
             record != nullptr ? FindPiggyback(*record, model_.m_currelem) : nullptr;
         if (item == nullptr)
             return Failed();
+        const int element = SplitNumber(model_.m_currelem).element;
         DrawTextureMap(model_);
         ShowScrollBar(*item);
         BlankRows(*record);
-        const int count =
-            record->Elements[static_cast<size_t>(SplitNumber(model_.m_currelem).element)].Count;
-        ShowListLength(count);
+        ShowListLength(record->Elements[static_cast<size_t>(element)].Count);
         if (!ShowAction(*item))
             return Failed();
         for (QPushButton* button : CornerButtons())
@@ -72,7 +72,7 @@ public:
         const KindView view = ViewOfKind(item->Type);
         if (!ShowKind(view, *item, *record))
             return Failed();
-        if (!ShowPlane(record->NRM, SplitNumber(model_.m_currelem).element))
+        if (!ShowPlane(record->NRM, element))
             return Failed();
         return view;
     }
@@ -210,6 +210,6 @@ private:
 
 } // namespace
 
-std::optional<KindView> FillElementsPanel(ElementsControls& controls, const model& current) {
-    return ElementsFill(controls, current).Run();
+std::optional<KindView> FillElementsPanel(ElementsControls& controls) {
+    return ElementsFill(controls, CurrentModel()).Run();
 }

@@ -7,11 +7,10 @@
 #include <optional>
 
 struct ElementsControls;
-class model;
 
-// Fills the panel from the piggyback m_currelem of the current file. The rows start at the scroll
-// offset 0, unless `wait` is set, when they keep the scroll bar's offset. With nothing selected
-// the panel keeps what it shows. A value the controls cannot show ends the fill where it stands
-// with a message; the model is never changed. Returns what the panel shows of the piggyback's
-// kind, or nothing when the fill ended early.
-std::optional<KindView> FillElementsPanel(ElementsControls& controls, const model& current);
+// Fills the panel from the piggyback m_currelem of the current file of the open model. The rows
+// start at the scroll offset 0, unless `wait` is set, when they keep the scroll bar's offset. With
+// nothing selected the panel keeps what it shows. A value the controls cannot show ends the fill
+// where it stands with a message; the model is never changed. Returns what the panel shows of the
+// piggyback's kind, or nothing when the fill ended early.
+std::optional<KindView> FillElementsPanel(ElementsControls& controls);

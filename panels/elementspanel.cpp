@@ -75,7 +75,7 @@ ElementsPanel::ElementsPanel(QWidget& frame) : QObject(&frame), c_(BuildElements
 }
 
 void ElementsPanel::Fill() {
-    if (const std::optional<KindView> shown = FillElementsPanel(c_, CurrentModel()))
+    if (const std::optional<KindView> shown = FillElementsPanel(c_))
         cornerButtons_ = shown->cornerButtons;
 }
 
