@@ -58,7 +58,6 @@ const QColor kMapColour{0, 192, 0};
 constexpr int kLabelLeft = 8;
 constexpr int kEdgeLeft = 2;
 constexpr int kTopFieldLeft = 78;
-constexpr int kTopSpinLeft = kTopFieldLeft + kFieldWidth;
 constexpr int kLineStep = 22;
 constexpr int kFirstLineTop = 4;
 constexpr int kListLabelLeft = 140;
