@@ -1,13 +1,15 @@
 #include "editpanels.h"
 
+#include "elementspanel.h"
 #include "modelinfopanel.h"
 #include "nodespanel.h"
 #include "partspanel.h"
 #include "viewsettings.h"
 
-EditPanels::EditPanels(QWidget& modelInfoFrame, QWidget& partsFrame, QWidget& nodesFrame)
+EditPanels::EditPanels(QWidget& modelInfoFrame, QWidget& partsFrame, QWidget& elementsFrame,
+                       QWidget& nodesFrame)
     : modelInfo_(new ModelInfoPanel(modelInfoFrame)), parts_(new PartsPanel(partsFrame)),
-      nodes_(new NodesPanel(nodesFrame)) {}
+      elements_(new ElementsPanel(elementsFrame)), nodes_(new NodesPanel(nodesFrame)) {}
 
 void EditPanels::FillPanel(int32_t tab) const {
     switch (tab) {
@@ -16,6 +18,9 @@ void EditPanels::FillPanel(int32_t tab) const {
         break;
     case kPartsTab:
         parts_->Fill();
+        break;
+    case kElementsTab:
+        elements_->Fill();
         break;
     case kNodesTab:
         nodes_->Fill();

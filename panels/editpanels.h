@@ -4,6 +4,7 @@
 
 #include <cstdint>
 
+class ElementsPanel;
 class ModelInfoPanel;
 class NodesPanel;
 class PartsPanel;
@@ -11,19 +12,22 @@ class QWidget;
 
 class EditPanels {
 public:
-    // Builds the Model Info, Parts and Nodes panels into the frames of tabs 1, 2 and 4; each
-    // frame owns its panel.
-    EditPanels(QWidget& modelInfoFrame, QWidget& partsFrame, QWidget& nodesFrame);
+    // Builds the Model Info, Parts, Elements and Nodes panels into the frames of tabs 1 to 4;
+    // each frame owns its panel.
+    EditPanels(QWidget& modelInfoFrame, QWidget& partsFrame, QWidget& elementsFrame,
+               QWidget& nodesFrame);
 
     // Fills the panel of tab `tab`; a tab without a panel here shows nothing.
     void FillPanel(int32_t tab) const;
 
     ModelInfoPanel& modelInfo() const { return *modelInfo_; }
     PartsPanel& parts() const { return *parts_; }
+    ElementsPanel& elements() const { return *elements_; }
     NodesPanel& nodes() const { return *nodes_; }
 
 private:
     ModelInfoPanel* modelInfo_;
     PartsPanel* parts_;
+    ElementsPanel* elements_;
     NodesPanel* nodes_;
 };

@@ -12,7 +12,6 @@
 #include <QFrame>
 #include <QLabel>
 #include <QPushButton>
-#include <QSpinBox>
 #include <QTabBar>
 #include <QTabWidget>
 
@@ -51,13 +50,6 @@ constexpr int kNotepadShorter = 200;
 constexpr const char* kPaneOpen = "<";
 constexpr const char* kPaneClosed = ">";
 
-// The placeholders of the Elements tab's choosers that a load resets, until its panel brings
-// its own.
-constexpr const char* kElementSpins[] = {"upd_3_elem", "upd_3_pb"};
-constexpr int kControlLeft = 8;
-constexpr int kControlTop = 8;
-constexpr int kControlStep = 28;
-constexpr int kSpinLargest = 32767;
 constexpr int kTabCaptionPoints = 8;
 
 } // namespace
@@ -126,14 +118,7 @@ void frm_main::BuildPanelFrames() {
         fra_edit[tab] = frame;
     }
     panels = std::make_unique<EditPanels>(*fra_edit[kModelInfoTab], *fra_edit[kPartsTab],
-                                          *fra_edit[kNodesTab]);
-    int row = 0;
-    for (const char* name : kElementSpins) {
-        auto* control = new QSpinBox(fra_edit[kElementsTab]);
-        control->setObjectName(name);
-        control->setRange(-1, kSpinLargest);
-        control->move(kControlLeft, kControlTop + kControlStep * row++);
-    }
+                                          *fra_edit[kElementsTab], *fra_edit[kNodesTab]);
 }
 
 void frm_main::SelectTab(int tab) {

@@ -1,6 +1,7 @@
 #include "qtmodelhost.h"
 
 #include "editpanels.h"
+#include "elementspanel.h"
 #include "mainwindow.h"
 #include "viewsettings.h"
 
@@ -116,6 +117,11 @@ void QtModelHost::SetSpinMaximum(const std::string& name, int maximum) {
 void QtModelHost::FillPanel(int32_t tab) {
     if (window_ != nullptr && window_->panels)
         window_->panels->FillPanel(tab);
+}
+
+void QtModelHost::ShowPickedPiggyback(int16_t number) {
+    if (window_ != nullptr && window_->panels)
+        window_->panels->elements().TakePick(number);
 }
 
 void QtModelHost::SetToolbarImage(const std::string& button, const std::string& image) {

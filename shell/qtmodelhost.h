@@ -25,6 +25,7 @@ public:
     int SpinValue(const std::string& name) override;
     void SetSpinMaximum(const std::string& name, int maximum) override;
     void FillPanel(int32_t tab) override;
+    void ShowPickedPiggyback(int16_t number) override;
     void ShowPerspectiveView() override;
     void SetToolbarImage(const std::string& button, const std::string& image) override;
     void UpdateRecentMenus() override;

@@ -1,6 +1,7 @@
 #include "panelfixture.h"
 
 #include "currentmodel.h"
+#include "elementspanel.h"
 #include "modelinmemory.h"
 #include "viewsettings.h"
 
@@ -29,6 +30,7 @@ public:
             spin->setMaximum(maximum);
     }
     void FillPanel(int32_t tab) override { panels_.FillPanel(tab); }
+    void ShowPickedPiggyback(int16_t number) override { panels_.elements().TakePick(number); }
 
 private:
     QWidget& pane_;
@@ -43,14 +45,14 @@ void PanelTest::SetUp() {
     ResetViewSettings();
     pane_ = std::make_unique<QWidget>();
     auto* column = new QVBoxLayout(pane_.get());
-    QWidget* frames[3];
-    const char* names[] = {"fra_edit(1)", "fra_edit(2)", "fra_edit(4)"};
-    for (int k = 0; k < 3; ++k) {
+    QWidget* frames[4];
+    const char* names[] = {"fra_edit(1)", "fra_edit(2)", "fra_edit(3)", "fra_edit(4)"};
+    for (int k = 0; k < 4; ++k) {
         frames[k] = new QWidget(pane_.get());
         frames[k]->setObjectName(names[k]);
         column->addWidget(frames[k]);
     }
-    panels = std::make_unique<EditPanels>(*frames[0], *frames[1], *frames[2]);
+    panels = std::make_unique<EditPanels>(*frames[0], *frames[1], *frames[2], *frames[3]);
     paneHost_ = std::make_unique<PaneHost>(*pane_, *panels);
     host.windowSide = paneHost_.get();
     pane_->show();

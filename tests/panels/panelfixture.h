@@ -1,5 +1,5 @@
-// A stand-in for the main window's left pane: the frames of tabs 1, 2 and 4 with their panels,
-// and a host that sends the model's fills and spin settings to them. Messages and questions go
+// A stand-in for the main window's left pane: the frames of tabs 1 to 4 with their panels, and
+// a host that sends the model's fills, spin settings and picks to them. Messages and questions go
 // to a RecordingHost.
 #pragma once
 

@@ -1,5 +1,5 @@
-// The panels in the main window: showing a tab fills its panel from the open file, and the
-// choosers of the other tabs take the file's counts.
+// The panels in the main window: showing a tab fills its panel from the open file, the choosers
+// of the other tabs take the file's counts, and a pick fills the Elements panel.
 #include "currentmodel.h"
 #include "editorfixture.h"
 #include "modelinmemory.h"
@@ -25,6 +25,12 @@ TEST_F(EditorTest, ShowingATabFillsItsPanel) {
     Find<QSpinBox>("upd_4_node")->setValue(2);
     EXPECT_EQ(Find<QLineEdit>("txt_4_x")->text(), "9");
     EXPECT_EQ(View().CurrentTab, kNodesTab);
+
+    // A pick reaches the Elements panel whether or not its tab is in front.
+    CurrentModel().m_currelem = 0;
+    Host().ShowPickedPiggyback(0);
+    EXPECT_EQ(Find<QLineEdit>("txt_3_node(0)")->text(), "2");
+    EXPECT_EQ(Find<QLineEdit>("txt_3_att1")->text(), "27");
 }
 
 } // namespace

@@ -109,6 +109,12 @@ void RecordingHost::SetSpinMaximum(const std::string& name, int maximum) {
         windowSide->SetSpinMaximum(name, maximum);
 }
 
+void RecordingHost::ShowPickedPiggyback(int16_t number) {
+    calls.push_back("picked piggyback: " + std::to_string(number));
+    if (windowSide != nullptr)
+        windowSide->ShowPickedPiggyback(number);
+}
+
 void RecordingHost::ShowPerspectiveView() {
     calls.emplace_back("perspective view");
     if (windowSide != nullptr)

@@ -26,6 +26,7 @@ public:
     void SetSpinValue(const std::string& name, int value) override;
     int SpinValue(const std::string& name) override;
     void SetSpinMaximum(const std::string& name, int maximum) override;
+    void ShowPickedPiggyback(int16_t number) override;
     void ShowPerspectiveView() override;
     void SetToolbarImage(const std::string& button, const std::string& image) override;
     void UpdateRecentMenus() override;
