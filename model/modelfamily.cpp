@@ -2,6 +2,7 @@
 // the user is asked, the names of incremental saves, and the window's state after a load.
 #include "model.h"
 
+#include "axiscode.h"
 #include "familynames.h"
 #include "foldersearch.h"
 #include "modelhost.h"
@@ -21,7 +22,6 @@ constexpr const char* kNothingToSaveMessage =
     "Only .mox models can be saved. This file was not read, so nothing was written.";
 constexpr const char* kMainEnding = ".MOX";
 constexpr int kLastFamilySlot = 6;
-constexpr int32_t kModifyAxisX = 30000;
 
 // Family names are built in upper case ("PLANEA.MOX"), and the family letter and extension of a
 // file on disk may be in either case. When no file has the exact name, a file in the same folder
@@ -120,7 +120,7 @@ void model::ResetWindow(bool resetSpins) {
     host.SetFamilyListRow(0);
     host.SetShowThisMoxOnly(false);
     m_currmox = 0;
-    host.SetModifyAxis(kModifyAxisX);
+    host.SetModifyAxis(kAxisX);
     if (resetSpins) {
         for (const char* spin : {"upd_3_pb", "upd_3_elem", "upd_4_node", "upd_2_part"})
             host.SetSpinValue(spin, 0);

@@ -32,10 +32,17 @@ public:
     virtual void ShowFirstEditTab() {}
     // Sets the program-wide ModifyAxis (30000 X, 30001 Y, 30002 Z).
     virtual void SetModifyAxis([[maybe_unused]] int32_t axis) {}
-    // Sets the value of the spin control `name` (upd_3_pb, upd_3_elem, upd_4_node, upd_2_part),
+    // Sets the value of the spin control `name` (upd_3_pb, upd_3_elem, upd_4_node, upd_2_part,
+    // upd_4_x, upd_4_y, upd_4_z),
     // which raises its change notification as a user's turn would.
     virtual void SetSpinValue([[maybe_unused]] const std::string& name,
                               [[maybe_unused]] int value) {}
+    // The value the spin control `name` shows (upd_4_x, upd_4_y, upd_4_z, upd_3_elem); 0 where
+    // there is no such spin.
+    virtual int SpinValue([[maybe_unused]] const std::string& name) { return 0; }
+    // Sets the top of the range of the spin control `name` (upd_4_node).
+    virtual void SetSpinMaximum([[maybe_unused]] const std::string& name,
+                                [[maybe_unused]] int maximum) {}
     // Runs mnu_v_persp_Click: the perspective view with its start camera.
     virtual void ShowPerspectiveView() {}
     // Gives toolbar button `button` ("Pilot", "LG", "Wing") the image `image` of the image list.

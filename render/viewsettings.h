@@ -2,6 +2,8 @@
 // that the painter reads on every frame.
 #pragma once
 
+#include "axiscode.h"
+
 #include <cstdint>
 
 // ViewMode values: six orthographic cameras along the model's axes and the free perspective one.
@@ -24,10 +26,6 @@ enum ToolModeValue : int32_t {
     kMoveTool = 5,
     kBankTool = 6
 };
-
-// The axis codes: the Axis argument of the moving operations, the values of ModifyAxis and the GL
-// names of the axis lines at the selection.
-enum AxisCode : int32_t { kAxisX = 30000, kAxisY = 30001, kAxisZ = 30002 };
 
 // CurrentTab values: the tabs of the property panels.
 enum TabNumber : int32_t {

@@ -89,9 +89,24 @@ void RecordingHost::SetModifyAxis(int32_t axis) {
 }
 
 void RecordingHost::SetSpinValue(const std::string& name, int value) {
+    spins[name] = value;
     calls.push_back("spin " + name + ": " + std::to_string(value));
     if (windowSide != nullptr)
         windowSide->SetSpinValue(name, value);
+}
+
+int RecordingHost::SpinValue(const std::string& name) {
+    if (windowSide != nullptr)
+        spins[name] = windowSide->SpinValue(name);
+    const auto found = spins.find(name);
+    return found != spins.end() ? found->second : 0;
+}
+
+void RecordingHost::SetSpinMaximum(const std::string& name, int maximum) {
+    spinMaxima[name] = maximum;
+    calls.push_back("spin maximum " + name + ": " + std::to_string(maximum));
+    if (windowSide != nullptr)
+        windowSide->SetSpinMaximum(name, maximum);
 }
 
 void RecordingHost::ShowPerspectiveView() {

@@ -4,6 +4,7 @@
 #include "modelhost.h"
 
 #include <deque>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -23,6 +24,8 @@ public:
     void ShowFirstEditTab() override;
     void SetModifyAxis(int32_t axis) override;
     void SetSpinValue(const std::string& name, int value) override;
+    int SpinValue(const std::string& name) override;
+    void SetSpinMaximum(const std::string& name, int maximum) override;
     void ShowPerspectiveView() override;
     void SetToolbarImage(const std::string& button, const std::string& image) override;
     void UpdateRecentMenus() override;
@@ -53,5 +56,9 @@ public:
     std::vector<std::string> familyList;
     std::string title;
     std::string helpCaption;
+    // The value and the top of the range of each spin set so far, by name; a spin never set
+    // shows 0. With a window side, values are read from the window.
+    std::map<std::string, int> spins;
+    std::map<std::string, int> spinMaxima;
     bool helpBold = false;
 };

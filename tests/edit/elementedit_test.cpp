@@ -1,0 +1,274 @@
+#include "cornerlist.h"
+#include "deleteelement.h"
+#include "duplicateelement.h"
+#include "editedmodel.h"
+#include "kindandmove.h"
+#include "piggybacknumber.h"
+#include "recordinghost.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace {
+
+constexpr const char* kPints =
+    "Cannot Delete Any More Pints.  Hmm. Pints.  Beer.  No wonder this thing never gets finished!";
+
+// Element 0: a coloured triangle (0), a Gouraud quad (1), a textured pentagon (2). Element 1: no
+// polygon, one NULL entry (100). Element 2: a wing-damage textured triangle (200), a line (201), a
+// hardpoint (202). Element 3: a polygon of 255 corners (300).
+MoxBuilder Elements() {
+    MoxBuilder b;
+    for (int16_t n = 0; n < 6; ++n)
+        b.nodes.push_back(Node{int16_t(n), int16_t(2 * n), int16_t(100 * n), 0});
+    b.streams = {StreamBytes()
+                     .ColouredPoly({0, 1, 2}, 7)
+                     .GouraudPoly({{0, 10}, {1, 11}, {2, 12}, {3, 13}})
+                     .MappedPoly(5, {{0, 1, 2}, {1, 3, 4}, {2, 5, 6}, {3, 7, 8}, {4, 9, 9}}, 1, 2)
+                     .End()
+                     .bytes,
+                 StreamBytes().End().bytes,
+                 StreamBytes()
+                     .Prefix(148, 1)
+                     .MappedPoly(5, {{3, 1, 1}, {4, 2, 2}, {5, 3, 3}}, 4, 5)
+                     .Line(4, 5, 3)
+                     .Hardpoint(25, 1)
+                     .End()
+                     .bytes,
+                 StreamBytes().ColouredPoly(std::vector<uint8_t>(255, 1), 7).End().bytes};
+    b.planes = {NRMRecord{1, 2, 3, 4, 5}, {}, NRMRecord{16384, 0, 0, -9, 1}, {}};
+    b.root = {0, 255};
+    b.children = {{1, 2}, {255, 255}, {3, 255}, {255, 255}};
+    return b;
+}
+
+const Piggyback& At(const model& m, int16_t number) {
+    return *FindPiggyback(m.Files[0], number);
+}
+
+std::vector<uint8_t> Corners(const std::vector<uint8_t>& list, int crn) {
+    return {list.begin(), list.begin() + std::min<size_t>(crn, list.size())};
+}
+
+std::vector<std::string> Messages(const char* message) {
+    return message[0] == 0 ? std::vector<std::string>{} : std::vector<std::string>{message};
+}
+
+} // namespace
+
+TEST(ElementEdit, CornerOperationsKeepTheListsInStepWithinTheirLimits) {
+    struct Row {
+        const char* what;
+        int16_t number;
+        std::function<void(model&)> operation;
+        std::vector<uint8_t> nodes, xMap;
+        const char* message;
+    };
+    const Row rows[] = {
+        {"delete of a triangle's corner",
+         0,
+         [](model& m) { DeleteNodeFromElement(m, 0); },
+         {0, 1, 2},
+         {},
+         kPints},
+        {"delete of a quad's corner",
+         1,
+         [](model& m) { DeleteNodeFromElement(m, 1); },
+         {0, 2, 3},
+         {10, 12, 13},
+         ""},
+        {"delete past the list",
+         1,
+         [](model& m) { DeleteNodeFromElement(m, 4); },
+         {0, 1, 2, 3},
+         {10, 11, 12, 13},
+         ""},
+        {"delete on a NULL entry",
+         100,
+         [](model& m) { DeleteNodeFromElement(m, 0); },
+         {},
+         {},
+         "This piggyback has no corner to delete."},
+        {"add", 1, [](model& m) { AddNodeToElement(m); }, {0, 1, 2, 3, 0}, {10, 11, 12, 13, 0}, ""},
+        {"add to 255 corners",
+         300,
+         [](model& m) { AddNodeToElement(m); },
+         std::vector<uint8_t>(255, 1),
+         {},
+         "This piggyback already has 255 corners, the most one can hold. No corner was added."},
+        {"swap", 1, [](model& m) { SwapNodes(m, 3, 0); }, {3, 1, 2, 0}, {13, 11, 12, 10}, ""},
+        {"swap past the list",
+         1,
+         [](model& m) { SwapNodes(m, 3, 4); },
+         {0, 1, 2, 3},
+         {10, 11, 12, 13},
+         ""},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.what);
+        RecordingHost host;
+        model m = LoadedModel(Elements());
+        m.m_currelem = row.number;
+        row.operation(m);
+        const Piggyback& item = At(m, row.number);
+        EXPECT_EQ(Corners(item.NodeList, item.CRN), row.nodes);
+        if (!row.xMap.empty()) {
+            EXPECT_EQ(Corners(item.XMap, item.CRN), row.xMap);
+        }
+        EXPECT_EQ(host.messages, Messages(row.message));
+    }
+}
+
+TEST(ElementEdit, NothingSelectedChangesNothing) {
+    RecordingHost host;
+    model m = LoadedModel(Elements());
+    const std::vector<uint8_t> before = SavedBytes(m.Files[0]);
+    AddNodeToElement(m);
+    DeleteNodeFromElement(m, 0);
+    SwapNodes(m, 0, 1);
+    ChangeType(m, 2);
+    Duplicate_Element(m, true, m.m_currelem);
+    Duplicate_Element(m, false, m.m_currelem);
+    Delete_Piggyback(m, m.m_currelem);
+    Delete_Element(m, m.m_currelem);
+    MoveElement(m, m.m_currelem, 30000, 5);
+    EXPECT_EQ(SavedBytes(m.Files[0]), before);
+    EXPECT_TRUE(host.calls.empty());
+}
+
+TEST(ElementEdit, DeleteElementRenumbersEveryRootAndPartByte) {
+    struct Row {
+        int elements;
+        ChildPair root;
+        std::vector<ChildPair> children;
+        int16_t number;
+        ChildPair rootAfter;
+        std::vector<ChildPair> childrenAfter;
+    };
+    const ChildPair none{255, 255};
+    const Row rows[] = {
+        {2, {0, 255}, {{1, 255}, none}, 0, none, {none}},
+        {6, {5, 255}, {}, 201, {4, 255}, {none, none, none, none, none}},
+        {2, {1, 0}, {none, none}, 5, {0, 255}, {none}},
+        {4, {0, 0}, {{1, 2}, {3, 255}, {0, 3}, {255, 1}}, 100, {0, 0}, {{255, 1}, {0, 2}, none}},
+        {1, {0, 255}, {none}, 0, {0, 255}, {none}},
+    };
+    for (const Row& row : rows) {
+        RecordingHost host;
+        MoxBuilder b;
+        b.nodes.resize(1);
+        b.streams.assign(row.elements, StreamBytes().Hardpoint(25, 0).Hardpoint(26, 0).End().bytes);
+        b.root = row.root;
+        b.children = row.children;
+        model m = LoadedModel(b);
+        Delete_Element(m, row.number);
+        const FileRecord after = ReadBack(m);
+        EXPECT_EQ(after.Root, row.rootAfter) << row.number;
+        EXPECT_EQ(std::vector<ChildPair>(after.PART.begin(), after.PART.end() - 1),
+                  row.childrenAfter);
+        for (int e = 0; e < m.Files[0].NumElements; ++e)
+            EXPECT_EQ(m.Files[0].Elements[e].Items[1].Number, MakeNumber(e, 1));
+    }
+}
+
+TEST(ElementEdit, DeletingTheLastOneMovesTheSelectionBack) {
+    RecordingHost host;
+    model m = LoadedModel(Elements());
+    host.spins["upd_3_elem"] = 2;
+    m.m_currelem = 200;
+    Delete_Piggyback(m, m.m_currelem);
+    EXPECT_EQ(m.m_currelem, 200) << "position 0 stays selected";
+    EXPECT_EQ(At(m, 200).Type, 1) << "the line moved up";
+    EXPECT_EQ(At(m, 201).Number, 201);
+    m.m_currelem = 201;
+    Delete_Piggyback(m, m.m_currelem);
+    EXPECT_EQ(m.m_currelem, 200);
+    EXPECT_EQ(host.spins["upd_3_pb"], 0);
+
+    m.m_currelem = 300;
+    const size_t mark = host.calls.size();
+    Delete_Element(m, m.m_currelem);
+    EXPECT_EQ(m.m_currelem, 200);
+    EXPECT_EQ(host.CallsWithoutEvents(mark),
+              (std::vector<std::string>{"spin upd_3_pb: 0", "spin upd_3_elem: 2"}));
+}
+
+TEST(ElementEdit, ChangeTypeFitsTheCornersAndKeepsTheirValues) {
+    RecordingHost host;
+    model m = LoadedModel(Elements());
+    m.m_currelem = 2;
+    ChangeType(m, 0);
+    EXPECT_EQ(ReadBack(m).Elements[0].Items[2].CRN, 2);
+    ChangeType(m, 4);
+    const Piggyback back = ReadBack(m).Elements[0].Items[2];
+    EXPECT_EQ(Corners(back.NodeList, back.CRN), (std::vector<uint8_t>{0, 1, 2}));
+    EXPECT_EQ(Corners(back.YMap, back.CRN), (std::vector<uint8_t>{2, 4, 6}));
+
+    m.m_currelem = 1;
+    ChangeType(m, 4);
+    const Piggyback mapped = ReadBack(m).Elements[0].Items[1];
+    EXPECT_EQ(mapped.Type, 5);
+    EXPECT_EQ(Corners(mapped.XMap, mapped.CRN), (std::vector<uint8_t>{10, 11, 12, 13}));
+    EXPECT_EQ(Corners(mapped.YMap, mapped.CRN), (std::vector<uint8_t>{0, 0, 0, 0}));
+    ChangeType(m, 9);
+    EXPECT_EQ(At(m, 1).Type, 255);
+    ChangeType(m, -1);
+    EXPECT_EQ(At(m, 1).Type, 255);
+}
+
+TEST(ElementEdit, DuplicatesGoLastWithoutDisplayCodeAndStopAtTheNumberLimits) {
+    RecordingHost host;
+    model m = LoadedModel(Elements());
+    const std::vector<uint8_t> before = SavedBytes(m.Files[0]);
+    Duplicate_Element(m, true, 100);
+    EXPECT_EQ(m.Files[0].Elements[1].Count, 2);
+    EXPECT_EQ(SavedBytes(m.Files[0]), before) << "a NULL copy is never saved";
+
+    Duplicate_Element(m, true, 200);
+    Duplicate_Element(m, false, 200);
+    const FileRecord after = ReadBack(m);
+    EXPECT_EQ(after.Elements[2].Items[3].COD, 0);
+    EXPECT_EQ(CornerPositions(after, 203), CornerPositions(after, 200));
+    EXPECT_EQ(after.NumElements, 5);
+    EXPECT_EQ(CornerPositions(after, 400), CornerPositions(after, 200));
+    EXPECT_EQ(after.NRM[4].X, 0);
+    EXPECT_EQ(after.NRM[4].Y, 16384);
+    EXPECT_EQ(after.PART[4], (ChildPair{0, 0}));
+
+    MoxBuilder full;
+    full.nodes.resize(1);
+    full.streams.assign(255, StreamBytes().Hardpoint(25, 0).End().bytes);
+    StreamBytes hundred;
+    for (int j = 0; j < 100; ++j)
+        hundred.Hardpoint(25, 0);
+    full.streams[0] = hundred.End().bytes;
+    model limit = LoadedModel(full);
+    const std::vector<uint8_t> limitBefore = SavedBytes(limit.Files[0]);
+    Duplicate_Element(limit, true, 5);
+    Duplicate_Element(limit, false, 5);
+    EXPECT_EQ(SavedBytes(limit.Files[0]), limitBefore);
+    EXPECT_EQ(host.messages.size(), 2u);
+}
+
+TEST(ElementEdit, MoveElementMovesPerCornerAndShortensAMoveThatWouldOverflow) {
+    struct Row {
+        int32_t axis;
+        int16_t dist;
+        int16_t node0X, node1X;
+    };
+    // Node 0 stands at X 32000 and is named twice, node 1 at X 100 once.
+    const Row rows[] = {{30000, 10, 32020, 110},
+                        {30000, 1000, 32766, 483},
+                        {30000, -10, 31980, 90},
+                        {30003, 10, 32000, 100}};
+    for (const Row& row : rows) {
+        MoxBuilder b;
+        b.nodes = {Node{0, 0, 32000, 0}, Node{0, 0, 100, 0}};
+        b.streams = {StreamBytes().ColouredPoly({0, 1, 0}, 7).End().bytes};
+        model m = LoadedModel(b);
+        MoveElement(m, 0, row.axis, row.dist);
+        EXPECT_EQ(m.Files[0].Nodes[0].X, row.node0X) << row.dist;
+        EXPECT_EQ(m.Files[0].Nodes[1].X, row.node1X) << row.dist;
+    }
+}

@@ -1,0 +1,100 @@
+#include "editedmodel.h"
+#include "nodetable.h"
+#include "recordinghost.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// Nodes 0 to 6 at distinct places; no corner names 0, 2 or 4.
+MoxBuilder SparseNodes() {
+    MoxBuilder b;
+    for (int16_t n = 0; n < 7; ++n)
+        b.nodes.push_back(Node{int16_t(10 * n), int16_t(-n), int16_t(100 + n), 0});
+    b.streams = {StreamBytes().ColouredPoly({5, 3, 1}, 7).End().bytes,
+                 StreamBytes().Line(3, 6, 9).Prefix(148, 1).Raw({0xFF}).bytes};
+    return b;
+}
+
+} // namespace
+
+TEST(NodeTable, RemoveNodesAsksThenZeroesOrCompactsKeepingEveryCornerInPlace) {
+    struct Row {
+        bool zero;
+        MessageAnswer answer;
+        const char* call;
+        int nodesAfter;
+    };
+    const Row rows[] = {
+        {false, MessageAnswer::Yes,
+         "question question [Delete Nodes?]: Do you want to delete all 3 unused nodes?", 4},
+        {false, MessageAnswer::No, "", 7},
+        {true, MessageAnswer::Yes,
+         "question question [Zero Nodes?]: Do you want to set all 3 unused nodes to ZERO?", 7},
+        {true, MessageAnswer::No, "", 7},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.call);
+        RecordingHost host;
+        host.answers = {row.answer};
+        model m = LoadedModel(SparseNodes());
+        const FileRecord before = m.Files[0];
+        RemoveNodes(m, row.zero);
+        ASSERT_EQ(host.calls.size(), 1u);
+        if (row.answer == MessageAnswer::No) {
+            EXPECT_EQ(SavedBytes(m.Files[0]), SavedBytes(before));
+            continue;
+        }
+        EXPECT_EQ(host.calls[0], row.call);
+        const FileRecord after = ReadBack(m);
+        EXPECT_EQ(after.NumNodes, row.nodesAfter);
+        for (const int16_t number : {0, 100})
+            EXPECT_EQ(CornerPositions(after, number), CornerPositions(before, number));
+        if (row.zero) {
+            EXPECT_EQ(after.Elements[0].Items[0].NodeList, before.Elements[0].Items[0].NodeList);
+            EXPECT_EQ(after.Nodes[4].X, 0);
+            EXPECT_EQ(after.Nodes[4].Z, 0);
+        }
+    }
+}
+
+TEST(NodeTable, AddNodeShowsTheNewNodeWhichIsUnusedAndRefusedPastNode255) {
+    RecordingHost host;
+    model m = LoadedModel(SparseNodes());
+    AddNode(m);
+    EXPECT_EQ(m.Files[0].NumNodes, 8);
+    EXPECT_EQ(host.spinMaxima["upd_4_node"], 7);
+    EXPECT_EQ(host.spins["upd_4_node"], 7);
+    RemoveNodes(m, false);
+    EXPECT_EQ(host.messages.back(), "Do you want to delete all 4 unused nodes?");
+
+    MoxBuilder full;
+    full.nodes.resize(256);
+    full.streams = {StreamBytes().Hardpoint(25, 255).End().bytes};
+    model limit = LoadedModel(full);
+    AddNode(limit);
+    EXPECT_EQ(limit.Files[0].NumNodes, 256);
+    EXPECT_NE(host.messages.back().find("256 nodes"), std::string::npos);
+}
+
+TEST(NodeTable, RemoveNodesLeavesAFileWithACornerPastTheTableAlone) {
+    RecordingHost host;
+    MoxBuilder b = SparseNodes();
+    b.streams[0] = StreamBytes().ColouredPoly({5, 3, 9}, 7).End().bytes;
+    model m = LoadedModel(b);
+    const std::vector<uint8_t> before = SavedBytes(m.Files[0]);
+    host.answers = {MessageAnswer::Yes};
+    RemoveNodes(m, false);
+    EXPECT_TRUE(host.messages.empty());
+    EXPECT_EQ(SavedBytes(m.Files[0]), before);
+}
+
+TEST(NodeTable, MoveNodeStepsTheNodesTabSpinWithinItsRange) {
+    RecordingHost host;
+    host.spins = {{"upd_4_x", 5}, {"upd_4_y", 32760}};
+    model m = LoadedModel(SparseNodes());
+    MoveNode(m, 3, 30000, 10);
+    MoveNode(m, 3, 30001, 100);
+    MoveNode(m, 3, 29999, 10);
+    EXPECT_EQ(host.spins, (std::map<std::string, int>{{"upd_4_x", 15}, {"upd_4_y", 32767}}));
+}
