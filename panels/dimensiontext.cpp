@@ -75,10 +75,13 @@ int64_t RoundedWhole(const TypedNumber& number) {
     return number.millionths < 0 ? -whole : whole;
 }
 
-int16_t Whole16(const std::string& text) {
-    const int64_t whole = RoundedWhole(LeadingDecimal(text));
-    return static_cast<int16_t>(std::clamp<int64_t>(whole, std::numeric_limits<int16_t>::min(),
+int16_t Hold16(int64_t value) {
+    return static_cast<int16_t>(std::clamp<int64_t>(value, std::numeric_limits<int16_t>::min(),
                                                     std::numeric_limits<int16_t>::max()));
+}
+
+int16_t Whole16(const std::string& text) {
+    return Hold16(RoundedWhole(LeadingDecimal(text)));
 }
 
 double PercentFactor(const std::string& text) {

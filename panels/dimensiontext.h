@@ -19,8 +19,10 @@ TypedNumber LeadingDecimal(const std::string& text);
 
 // The typed number rounded to a whole, halves to the even neighbour.
 int64_t RoundedWhole(const TypedNumber& number);
-// The same, held to the 16-bit range, so that a number too large for a 16-bit field is stored as
-// the nearest bound and never wrapped.
+// A number held to the 16-bit range: one too large for a 16-bit field is stored as the nearest
+// bound and never wrapped.
+int16_t Hold16(int64_t value);
+// The typed number at the head of `text`, rounded to a whole and held to the 16-bit range.
 int16_t Whole16(const std::string& text);
 // The number at the head of `text` / 100, for a rescale given in percent.
 double PercentFactor(const std::string& text);

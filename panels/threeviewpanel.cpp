@@ -13,9 +13,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include <algorithm>
-#include <limits>
-
 namespace {
 
 enum Dimensions { kSpan, kLength, kHeight };
@@ -54,11 +51,6 @@ QPushButton* Button(const char* caption, const char* name, QWidget& frame) {
     auto* button = new QPushButton(caption, &frame);
     button->setObjectName(name);
     return button;
-}
-
-int16_t Hold16(int64_t value) {
-    return static_cast<int16_t>(std::clamp<int64_t>(value, std::numeric_limits<int16_t>::min(),
-                                                    std::numeric_limits<int16_t>::max()));
 }
 
 } // namespace
