@@ -138,6 +138,19 @@ void frm_texture::Form_Load() {
     SizeForScale();
 }
 
+void frm_texture::Open(int16_t index) {
+    Form_Load();
+    Set_Texture(index);
+    show();
+}
+
+void frm_texture::FollowOwnerMinimised() {
+    if (!isVisible())
+        return;
+    SetOnTop(false);
+    showMinimized();
+}
+
 void frm_texture::ApplyTextureScale() {
     SizeForScale();
     DrawTextureLines(CurrentModel());

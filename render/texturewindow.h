@@ -28,6 +28,12 @@ public:
     void Form_Load();
     // Sizes the window and its picture for TextureScale and draws the map outline again.
     void ApplyTextureScale();
+    // Opens the window on store `index` as the View menu does: a fresh start, the picture and
+    // outline of the moment, shown without holding up the main window.
+    void Open(int16_t index);
+    // The main window was minimised: a shown texture window lets go of its place on top and is
+    // minimised too.
+    void FollowOwnerMinimised();
 
     float TextureScale = 1.0f;
     int16_t TextureIndex = 0;

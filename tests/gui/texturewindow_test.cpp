@@ -57,9 +57,7 @@ protected:
         ReplaceCurrentModel();
         std::string name = std::string(SAMPLE_DIR) + "/PDEMOF.MOX";
         CurrentModel().Load(name);
-        window.Form_Load();
-        window.Set_Texture(0);
-        window.show();
+        window.Open(0);
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
     }
     void TearDown() override {
