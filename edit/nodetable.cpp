@@ -46,22 +46,17 @@ bool Ask(const std::string& text, const std::string& title) {
            MessageAnswer::Yes;
 }
 
-// Gives every corner of every live piggyback its node's new number. Entries that are no live
-// corner (the spare entry, the lists of a NULL piggyback) follow their node when it stays and
-// become 0 when it goes, so that a later change of kind never brings back a number past the table.
+// Gives every corner of every live piggyback its node's new number; those nodes all stay. Entries
+// that are no live corner (the spare entry, the lists of a NULL piggyback) follow their node too
+// when it stays and become 0 when it goes, so that a later change of kind never brings back a
+// number past the table.
 void Renumber(FileRecord& file, const std::vector<bool>& used, const std::vector<int>& shift) {
     const int elements = std::min<int>(file.NumElements, static_cast<int>(file.Elements.size()));
     for (int i = 0; i < elements; ++i) {
-        ElementList& list = file.Elements[i];
-        for (Piggyback& item : list.Items) {
-            const int corners = item.Type == kTypeNull ? 0 : item.CRN;
-            for (size_t k = 0; k < item.NodeList.size(); ++k) {
-                const size_t c = item.NodeList[k];
-                const bool stays = c + 1 < used.size() && used[c];
-                if (static_cast<int>(k) < corners || stays)
-                    item.NodeList[k] = static_cast<uint8_t>(static_cast<int>(c) + shift[c]);
-                else
-                    item.NodeList[k] = 0;
+        for (Piggyback& item : file.Elements[i].Items) {
+            for (uint8_t& c : item.NodeList) {
+                const bool stays = c + 1u < used.size() && used[c];
+                c = stays ? static_cast<uint8_t>(c + shift[c]) : uint8_t{0};
             }
         }
     }

@@ -2,6 +2,9 @@
 
 #include "filerecord.h"
 
+#include <algorithm>
+#include <iterator>
+
 KindLayout LayoutOf(uint8_t type) {
     KindLayout layout;
     switch (type) {
@@ -32,4 +35,9 @@ KindLayout LayoutOf(uint8_t type) {
         break;
     }
     return layout;
+}
+
+int HardpointSlot(uint8_t code) {
+    const auto* found = std::find(std::begin(kHardpointCodes), std::end(kHardpointCodes), code);
+    return found == std::end(kHardpointCodes) ? 0 : 1 + int(found - std::begin(kHardpointCodes));
 }

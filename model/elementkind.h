@@ -11,6 +11,12 @@ constexpr uint8_t kTypeGouraudPoly = 4;
 constexpr uint8_t kTypeTexturedPoly = 5;
 constexpr uint8_t kTypeTransparentPoly = 6;
 
+// The hardpoint codes that fill HP(1) to HP(6), in slot order; other codes fill no slot.
+constexpr uint8_t kHardpointCodes[] = {25, 26, 27, 28, 29, 10};
+
+// The HP slot (1 to 6) a hardpoint of `code` fills; 0 when the code fills none.
+int HardpointSlot(uint8_t code);
+
 // What an entry of a given Type holds. Any Type other than 1, 2, 3, 4 and 255 is stored like a
 // Textured Poly.
 struct KindLayout {

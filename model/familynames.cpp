@@ -1,5 +1,7 @@
 #include "familynames.h"
 
+#include "asciicase.h"
+
 #include <algorithm>
 #include <cctype>
 #include <cstdio>
@@ -10,12 +12,6 @@ namespace {
 constexpr std::size_t kExtensionLength = 4; // ".MOX", with its dot
 constexpr std::size_t kNumberLength = 3;    // the "001" of "_001"
 constexpr int kMaxRecentEntry = 3;          // entries 0 to 3 are in use
-
-std::string UpperCase(std::string text) {
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
-    return text;
-}
 
 bool StartsWith(const std::string& text, const std::string& start) {
     return text.compare(0, start.size(), start) == 0;
@@ -36,7 +32,7 @@ std::string ExtensionOf(const std::string& filename) {
 
 FileKind FileKindOf(const std::string& filename) {
     const std::string tail =
-        UpperCase(filename.size() >= 3 ? filename.substr(filename.size() - 3) : filename);
+        UpperAscii(filename.size() >= 3 ? filename.substr(filename.size() - 3) : filename);
     if (tail == "MOX")
         return FileKind::Mox;
     if (tail == "MOY")
@@ -52,7 +48,7 @@ std::string BareFileName(const std::string& path) {
 }
 
 Family FamilyOf(const std::string& filename) {
-    const std::string bare = UpperCase(BareFileName(filename));
+    const std::string bare = UpperAscii(BareFileName(filename));
     if (StartsWith(bare, "TMOD"))
         return Family::H;
     if (StartsWith(bare, "P"))
@@ -63,9 +59,7 @@ Family FamilyOf(const std::string& filename) {
 char FamilyLetter(const std::string& filename) {
     if (filename.size() < kLetterAndExtensionLength)
         return '\0';
-    const auto letter =
-        static_cast<unsigned char>(filename[filename.size() - kLetterAndExtensionLength]);
-    return static_cast<char>(std::toupper(letter));
+    return UpperAscii(filename[filename.size() - kLetterAndExtensionLength]);
 }
 
 char MainLetter(Family family) {

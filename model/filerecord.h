@@ -19,6 +19,7 @@ constexpr int kMaxPiggybacks = 255;
 constexpr int kMaxStreamOffset = 32767;
 // Number of Files slots; slot 7 is never used by a family.
 constexpr int kFileSlots = 8;
+constexpr int kLastFamilySlot = 6;
 constexpr int kTextureNameLength = 14;
 
 struct Node {

@@ -1,5 +1,8 @@
-// Saving that never destroys what was there before: the new contents go to a temporary file in
-// the target's folder, which is renamed over the target only once it is completely written.
+// Saving that never destroys what was there before and leaves nothing behind when interrupted:
+// the new contents go to a file without a name in the target's folder, which gets a hidden name
+// and is renamed over the target only once it is completely written. Where the file system has no
+// unnamed files, a hidden temporary name (".NAME.saving-XXXXXX") is written instead; whatever an
+// interrupted save left under such a name, the next save of the same file removes.
 #pragma once
 
 #include <cstddef>

@@ -1,21 +1,8 @@
 #include "foldersearch.h"
 
-#include <algorithm>
+#include "asciicase.h"
+
 #include <filesystem>
-
-namespace {
-
-char UpperAscii(char c) {
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-}
-
-} // namespace
-
-bool SameIgnoringCase(const std::string& a, const std::string& b) {
-    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
-               return UpperAscii(x) == UpperAscii(y);
-           });
-}
 
 std::string FindEntryIgnoringCase(const std::string& folder, const std::string& name) {
     namespace fs = std::filesystem;
@@ -30,4 +17,15 @@ std::string FindEntryIgnoringCase(const std::string& folder, const std::string& 
             found = entry;
     }
     return found;
+}
+
+std::string FolderPart(const std::string& path) {
+    const std::size_t separator = path.find_last_of("/\\");
+    return separator == std::string::npos ? std::string() : path.substr(0, separator + 1);
+}
+
+std::string OnDiskPath(const std::string& path) {
+    const std::string folder = FolderPart(path);
+    const std::string found = FindEntryIgnoringCase(folder, path.substr(folder.size()));
+    return found.empty() ? path : folder + found;
 }

@@ -4,9 +4,13 @@
 
 #include <string>
 
-// True when `a` and `b` differ at most in the case of their ASCII letters.
-bool SameIgnoringCase(const std::string& a, const std::string& b);
-
 // The entry of `folder` ("" for the current folder) that is `name` up to the case of its ASCII
 // letters: `name` itself when it exists, else the first such entry in name order, else "".
 std::string FindEntryIgnoringCase(const std::string& folder, const std::string& name);
+
+// The folder part of `path`: up to and including its last '/' or '\'; "" for a bare name.
+std::string FolderPart(const std::string& path);
+
+// `path` as it is on disk: its folder part followed by the entry of that folder that is its bare
+// name up to case; `path` itself when there is no such entry.
+std::string OnDiskPath(const std::string& path);

@@ -10,48 +10,13 @@
 #include "moxwriter.h"
 #include "programstate.h"
 
-#include <filesystem>
-
 namespace {
 
-constexpr const char* kTitle = "Skylathe";
-constexpr const char* kTitlePrefix = "Skylathe - ";
 constexpr const char* kSaveOneCommand = "ONE";
 constexpr const char* kSaveAllCommand = "ALL";
 constexpr const char* kNothingToSaveMessage =
     "Only .mox models can be saved. This file was not read, so nothing was written.";
 constexpr const char* kMainEnding = ".MOX";
-constexpr int kLastFamilySlot = 6;
-
-// Family names are built in upper case ("PLANEA.MOX"), and the family letter and extension of a
-// file on disk may be in either case. When no file has the exact name, a file in the same folder
-// whose name differs only in the case of its last five characters is taken instead; the first in
-// name order wins when there are several.
-std::string OnDiskName(const std::string& filename) {
-    namespace fs = std::filesystem;
-    std::error_code error;
-    if (filename.size() < kLetterAndExtensionLength || fs::exists(filename, error))
-        return filename;
-    const fs::path wanted(filename);
-    const std::string bare = wanted.filename().string();
-    if (bare.size() < kLetterAndExtensionLength)
-        return filename;
-    const std::string fixedPart = bare.substr(0, bare.size() - kLetterAndExtensionLength);
-    const std::string ending = bare.substr(bare.size() - kLetterAndExtensionLength);
-    const fs::path folder = wanted.has_parent_path() ? wanted.parent_path() : fs::path(".");
-    std::string found;
-    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
-         entry.increment(error)) {
-        const std::string name = entry->path().filename().string();
-        if (name.size() == bare.size() && name.compare(0, fixedPart.size(), fixedPart) == 0 &&
-            SameIgnoringCase(name.substr(fixedPart.size()), ending) &&
-            (found.empty() || name < found))
-            found = name;
-    }
-    if (found.empty())
-        return filename;
-    return wanted.has_parent_path() ? (folder / found).string() : found;
-}
 
 std::string NextSaveName(const std::string& filename) {
     return Program().IncrementalSave ? IncrementalName(filename) : filename;
@@ -64,7 +29,7 @@ bool model::CheckMOX(int16_t num) const {
 }
 
 void model::ReadSlot(const std::string& filename, int16_t slot) {
-    Files[slot] = READ_MOX(OnDiskName(filename), slot);
+    Files[slot] = READ_MOX(OnDiskPath(filename), slot);
     Files[slot].Index = slot;
 }
 
@@ -94,7 +59,7 @@ bool model::Load(std::string& Filename) {
         const char main = MainLetter(family);
         if (FamilyLetter(Filename) == main &&
             Host().ShowMessage(kConnectedFilesQuestion, MessageButtons::YesNo,
-                               MessageIcon::Question, kTitle) == MessageAnswer::Yes) {
+                               MessageIcon::Question, kProgramTitle) == MessageAnswer::Yes) {
             const std::string stem = FamilyStem(Filename);
             for (const ConnectedFile& connected : ConnectedFiles(family))
                 ReadSlot(stem + connected.ending, connected.slot);

@@ -1,5 +1,7 @@
 #include "modelhost.h"
 
+#include "repeatedmessages.h"
+
 namespace {
 
 class SilentHost final : public ModelHost {
@@ -24,5 +26,7 @@ void SetHost(ModelHost* host) {
 }
 
 void ShowMessage(const std::string& text, MessageIcon icon) {
-    Host().ShowMessage(text, MessageButtons::Ok, icon, "Skylathe");
+    if (RepeatedMessages* gate = OpenMessageGate(); gate != nullptr && !gate->Admit(text))
+        return;
+    Host().ShowMessage(text, MessageButtons::Ok, icon, kProgramTitle);
 }

@@ -62,11 +62,17 @@ public:
     virtual void LetEventsRun() {}
 };
 
+// The program's name: the title of its message boxes, and the front of the window title
+// ("Skylathe - PLANEF.MOX") once a file is open.
+inline constexpr const char* kProgramTitle = "Skylathe";
+inline constexpr const char* kTitlePrefix = "Skylathe - ";
+
 // The host the model layer talks to. Without one set, messages are dropped and questions are
 // answered No (Ok for a plain message), which is what a program without a window needs.
 ModelHost& Host();
 // Sets the host; nullptr restores the silent one. The caller keeps ownership.
 void SetHost(ModelHost* host);
 
-// Shows `text` in an OK box titled "Skylathe".
+// Shows `text` in an OK box titled "Skylathe"; while a RepeatedMessages gate stands, a repeat of
+// a message already shown is counted instead (model/repeatedmessages.h).
 void ShowMessage(const std::string& text, MessageIcon icon = MessageIcon::None);

@@ -11,7 +11,6 @@ enum class Axis { Span, Length, Height };
 
 constexpr int32_t kSmallest = 0;
 constexpr int32_t kLargest = 1;
-constexpr int kLastFamilySlot = 6;
 constexpr int32_t kMin16 = std::numeric_limits<int16_t>::min();
 constexpr int32_t kMax16 = std::numeric_limits<int16_t>::max();
 

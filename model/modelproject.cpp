@@ -7,6 +7,7 @@
 #include "modelhost.h"
 #include "programstate.h"
 #include "projectfile.h"
+#include "projectpaths.h"
 #include "textureloader.h"
 
 #include <exception>
@@ -22,7 +23,6 @@ constexpr const char* kNoProjectFile =
     "No project file is open. Create one with \"Create Project\" on the 3-View Data tab.";
 constexpr const char* kProjectNotWritten =
     "Could not write the project file. The file on disk was left as it was.";
-constexpr const char* kTitlePrefix = "Skylathe - ";
 constexpr int kViewImageSlot = 7;
 constexpr std::size_t kHFamilyRows = 4;
 
@@ -67,14 +67,22 @@ const NumberKey kNumberKeys[] = {
     {"TOPLEFTY", &ProjectRecord::TopLeftY}, {"TOPLEFTZ", &ProjectRecord::TopLeftZ},
 };
 
+// The folder that relative paths of the project being loaded are taken from.
+std::string ProjectFolder() {
+    return FolderOf(Program().ProjectData.ProjectFile);
+}
+
 void LoadViewImage(const ViewKey& view, const std::string& path) {
     ProjectRecord& project = Program().ProjectData;
     project.*view.path = path;
-    if (path == kNoPath)
+    if (path == kNoPath) {
+        project.*view.image = 0;
         return;
+    }
     Host().SetHelpCaption(view.caption);
     TextureLoader* loader = CurrentTextureLoader();
-    if (loader != nullptr && !loader->LoadGLTexture(path, project.*view.image, kViewImageSlot))
+    if (loader != nullptr && !loader->LoadGLTexture(PathFromFolder(path, ProjectFolder()),
+                                                    project.*view.image, kViewImageSlot))
         ShowMessage(kNotAPicture);
 }
 
@@ -112,7 +120,7 @@ bool model::TreatProjectLine(const std::string& text, std::istream& in) {
         project.*slotKey.path = line.value;
         if (line.value != kNoPath) {
             Host().SetHelpCaption(slotKey.caption);
-            ReadSlot(line.value, slotKey.slot);
+            ReadSlot(PathFromFolder(line.value, ProjectFolder()), slotKey.slot);
         }
         return true;
     }
@@ -182,9 +190,16 @@ void model::SaveProject() {
         ShowMessage(kNoProjectFile, MessageIcon::Exclamation);
         return;
     }
+    // A path the project gave that still names the file keeps its form, so that relative paths
+    // stay relative and the project can move with its files.
+    const std::string folder = FolderOf(project.ProjectFile);
     for (const ModelKey& slotKey : kModelKeys) {
         const std::string& name = Files[slotKey.slot].Filename;
-        project.*slotKey.path = name.empty() ? kNoPath : name;
+        std::string& path = project.*slotKey.path;
+        if (name.empty())
+            path = kNoPath;
+        else if (PathFromFolder(path, folder) != name)
+            path = name;
     }
     for (std::string* view : {&project.Top, &project.Left, &project.Front}) {
         if (view->empty())

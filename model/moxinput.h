@@ -21,6 +21,9 @@ public:
     // Ends the reading of the file: every later read gives zero.
     void Close() { closed_ = true; }
     bool IsClosed() const { return closed_; }
+    // True when every read from here on gives zero: the file is closed or the position lies
+    // beyond its end.
+    bool RunOut() const { return closed_ || position_ >= static_cast<int64_t>(bytes_.size()); }
 
 private:
     const std::vector<uint8_t>& bytes_;

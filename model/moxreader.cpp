@@ -16,9 +16,6 @@ namespace {
 constexpr const char* kTooManyEntries = "Error in MOX file.  Around element number: ";
 constexpr const char* kBadTexture = "Cannot load texture. Must be a PCX file!";
 
-// The hardpoint codes that fill HP(1) to HP(6), in slot order.
-constexpr uint8_t kHardpointCodes[] = {25, 26, 27, 28, 29, 10};
-
 // Array sizes follow the counts; a negative count sizes as 0.
 size_t SizeFor(int count) {
     return static_cast<size_t>(std::max(count, 0));
@@ -55,7 +52,9 @@ void ReadTables(MoxInput& file, FileRecord& record) {
     record.Elements.resize(SizeFor(record.NumElements) + 1);
     record.Nodes.resize(SizeFor(record.NumNodes) + 1);
 
-    for (int p = 0; p < record.NumParts - 1; ++p) {
+    // The arrays start as zeros, which is all a read beyond the end of the file would give them:
+    // the loops stop there, so that a short file with large counts costs no more than its bytes.
+    for (int p = 0; p < record.NumParts - 1 && !file.RunOut(); ++p) {
         Part& part = record.Parts[p];
         part.Code = file.ReadByte();
         part.Num = file.ReadByte();
@@ -63,7 +62,7 @@ void ReadTables(MoxInput& file, FileRecord& record) {
         part.Z = file.ReadInt16();
         part.X = file.ReadInt16();
     }
-    for (int i = 0; i < record.NumElements; ++i) {
+    for (int i = 0; i < record.NumElements && !file.RunOut(); ++i) {
         NRMRecord& plane = record.NRM[i];
         plane.Y = file.ReadInt16();
         plane.Z = file.ReadInt16();
@@ -73,31 +72,28 @@ void ReadTables(MoxInput& file, FileRecord& record) {
     }
     record.Root[0] = file.ReadByte();
     record.Root[1] = file.ReadByte();
-    for (int i = 0; i < record.NumElements; ++i) {
+    for (int i = 0; i < record.NumElements && !file.RunOut(); ++i) {
         record.PART[i][0] = file.ReadByte();
         record.PART[i][1] = file.ReadByte();
     }
-    for (int n = 0; n < record.NumNodes; ++n) {
+    for (int n = 0; n < record.NumNodes && !file.RunOut(); ++n) {
         Node& node = record.Nodes[n];
         node.Y = file.ReadInt16();
         node.Z = file.ReadInt16();
         node.X = file.ReadInt16();
         node.B = file.ReadInt16();
     }
-    for (int i = 0; i < record.NumElements; ++i)
+    for (int i = 0; i < record.NumElements && !file.RunOut(); ++i)
         record.Offsets[i] = file.ReadInt16();
 }
 
 // A hardpoint entry copies the node at its first corner into the HP slot of its code; a node
 // outside Nodes leaves the slot as it was.
 void NoteHardpoint(FileRecord& record, const Piggyback& entry) {
-    const auto* code =
-        std::find(std::begin(kHardpointCodes), std::end(kHardpointCodes), entry.Att1);
-    if (code == std::end(kHardpointCodes))
-        return;
+    const int slot = HardpointSlot(entry.Att1);
     const size_t node = entry.NodeList[0];
-    if (node < record.Nodes.size())
-        record.HP[1 + (code - std::begin(kHardpointCodes))] = record.Nodes[node];
+    if (slot > 0 && node < record.Nodes.size())
+        record.HP[slot] = record.Nodes[node];
 }
 
 void SetNumber(Piggyback& entry, int element, int position) {
@@ -108,26 +104,13 @@ void SetNumber(Piggyback& entry, int element, int position) {
 }
 
 // Once the file is closed nothing more can be read, and every entry of a later element is the
-// blank entry that reading zeros gives (kind 5, no corners): the list is made at once.
+// blank entry that reading zeros gives: all its fields zero (kind 0, no corners). Its corner lists
+// would hold only the spare entry, which means nothing; leaving them empty keeps the many
+// thousands of such entries a damaged file can give cheap to make.
 void FillWithBlanks(ElementList& list, int element, int64_t entries) {
-    static const Piggyback blank = [] {
-        const std::vector<uint8_t> nothing;
-        MoxInput closed(nothing);
-        Piggyback entry;
-        READ_ELEMENT_MOX(closed, entry);
-        // Its corner lists hold only the spare entry, which means nothing: leaving them empty
-        // keeps the many thousands of such entries a damaged file can give cheap to make.
-        entry.NodeList.clear();
-        entry.XMap.clear();
-        entry.YMap.clear();
-        return entry;
-    }();
-    list.Items.reserve(static_cast<size_t>(entries) + 1);
-    for (int j = 0; j < entries; ++j) {
-        list.Items.push_back(blank);
-        SetNumber(list.Items.back(), element, j);
-    }
-    list.Items.emplace_back();
+    list.Items.resize(static_cast<size_t>(entries) + 1);
+    for (int j = 0; j < entries; ++j)
+        SetNumber(list.Items[j], element, j);
     list.Count = static_cast<int16_t>(entries);
 }
 

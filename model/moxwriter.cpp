@@ -90,6 +90,23 @@ void WriteTables(MoxOutput& file, const FileRecord& record) {
     }
 }
 
+// Where the first stream starts: behind the tables and the offsets.
+int64_t FirstStreamStart(const FileRecord& record) {
+    constexpr int64_t kHeaderBytes = 2 + kTextureNameLength + 3 * 2;
+    constexpr int64_t kPartBytes = 8;
+    constexpr int64_t kElementBytes = 14 + 2 + 2; // plane, children, offset
+    constexpr int64_t kNodeBytes = 8;
+    constexpr int64_t kRootBytes = 2;
+    return kHeaderBytes + kPartBytes * std::max(record.NumParts - 1, 0) + kRootBytes +
+           kElementBytes * std::max<int64_t>(record.NumElements, 0) +
+           kNodeBytes * std::max<int64_t>(record.NumNodes, 0);
+}
+
+std::string StreamsTooFar(int element) {
+    return "the streams of element " + std::to_string(element) + " would start beyond byte " +
+           std::to_string(kMaxStreamOffset);
+}
+
 } // namespace
 
 int32_t SAVE_ELEMENT_MOX(MoxOutput& file, const ElementList& list) {
@@ -104,6 +121,10 @@ int32_t SAVE_ELEMENT_MOX(MoxOutput& file, const ElementList& list) {
 }
 
 bool BuildMoxBytes(const FileRecord& record, std::vector<uint8_t>& bytes, std::string& problem) {
+    if (record.NumElements > 0 && FirstStreamStart(record) > kMaxStreamOffset) {
+        problem = StreamsTooFar(0);
+        return false;
+    }
     MoxOutput file;
     WriteTables(file, record);
     size_t table = file.Position();
@@ -112,8 +133,7 @@ bool BuildMoxBytes(const FileRecord& record, std::vector<uint8_t>& bytes, std::s
     size_t stream = file.Position();
     for (int i = 0; i < record.NumElements; ++i) {
         if (stream > static_cast<size_t>(kMaxStreamOffset)) {
-            problem = "the streams of element " + std::to_string(i) + " would start beyond byte " +
-                      std::to_string(kMaxStreamOffset);
+            problem = StreamsTooFar(i);
             return false;
         }
         file.Seek(table);

@@ -1,6 +1,7 @@
 #include "projectfile.h"
 
-#include <algorithm>
+#include "asciicase.h"
+
 #include <cctype>
 #include <limits>
 
@@ -41,9 +42,7 @@ bool SplitProjectLine(const std::string& line, ProjectLine& result) {
     const std::size_t equals = line.find('=');
     if (equals == std::string::npos)
         return false;
-    result.key = line.substr(0, equals);
-    std::transform(result.key.begin(), result.key.end(), result.key.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+    result.key = UpperAscii(line.substr(0, equals));
     result.value = line.substr(equals + 1);
     return true;
 }

@@ -1,6 +1,7 @@
 #include "bytefile.h"
 
-#include <cstdio>
+#include "filereplace.h"
+
 #include <filesystem>
 #include <fstream>
 #include <new>
@@ -27,24 +28,6 @@ bool ReadFileBytes(const std::string& path, std::vector<uint8_t>& bytes) {
 }
 
 bool WriteFileBytes(const std::string& path, const std::vector<uint8_t>& bytes) {
-    const std::string temporary = path + ".tmp";
-    {
-        std::ofstream out(temporary, std::ios::binary | std::ios::trunc);
-        if (!out)
-            return false;
-        out.write(reinterpret_cast<const char*>(bytes.data()),
-                  static_cast<std::streamsize>(bytes.size()));
-        out.close();
-        if (!out) {
-            std::remove(temporary.c_str());
-            return false;
-        }
-    }
-    std::error_code error;
-    std::filesystem::rename(temporary, path, error);
-    if (error) {
-        std::remove(temporary.c_str());
-        return false;
-    }
-    return true;
+    std::string problem;
+    return ReplaceFileContents(path, bytes, problem);
 }

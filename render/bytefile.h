@@ -14,6 +14,6 @@ constexpr std::uintmax_t kMaxReadableFileBytes = std::uintmax_t{1} << 30;
 // than kMaxReadableFileBytes.
 bool ReadFileBytes(const std::string& path, std::vector<uint8_t>& bytes);
 
-// Writes `bytes` to a temporary file beside `path`, then renames it over `path`. Returns false,
-// leaving any old file as it was, when either step fails.
+// Replaces `path` with `bytes` through the one save path (filereplace.h). Returns false, leaving
+// any old file as it was, when that fails.
 bool WriteFileBytes(const std::string& path, const std::vector<uint8_t>& bytes);

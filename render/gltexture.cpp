@@ -2,19 +2,54 @@
 
 #include "model.h"
 #include "pcxreader.h"
+#include "programstate.h"
 
 #include <QOpenGLContext>
 
 #include <GL/gl.h>
 
+#include <algorithm>
 #include <cstring>
 #include <new>
-#include <set>
 
 namespace {
 
-// The slots whose picture was loaded while no GL context was current.
-std::set<int> pendingSlots;
+using ImageField = int32_t ProjectRecord::*;
+
+constexpr ImageField kProjectImageFields[] = {
+    &ProjectRecord::LeftImage,   &ProjectRecord::TopImage,   &ProjectRecord::FrontImage,
+    &ProjectRecord::BottomImage, &ProjectRecord::RightImage, &ProjectRecord::BackImage,
+};
+
+// A picture loaded while no GL context was current, with its own copy of the pixels (the 3-view
+// slot is shared, so the next drawing replaces the store before the upload), and where its
+// texture name goes: a view image field of the project, or else the file of its slot.
+struct PendingUpload {
+    int slot = 0;
+    ImageField field = nullptr;
+    ImageStore picture;
+};
+
+std::vector<PendingUpload> pendingUploads;
+
+// The project's view image field that `Texture` is, or nullptr.
+ImageField ProjectImageField(const int32_t& Texture) {
+    ProjectRecord& project = Program().ProjectData;
+    for (const ImageField field : kProjectImageFields) {
+        if (&(project.*field) == &Texture)
+            return field;
+    }
+    return nullptr;
+}
+
+// Drops the upload that waits for the same place: a later load of it wins.
+void ForgetPendingUpload(int slot, ImageField field) {
+    pendingUploads.erase(std::remove_if(pendingUploads.begin(), pendingUploads.end(),
+                                        [&](const PendingUpload& upload) {
+                                            return upload.slot == slot && upload.field == field;
+                                        }),
+                         pendingUploads.end());
+}
 
 // The store's rows turned bottom-up, which is how glTexImage2D takes them and what the map
 // coordinates of the polygons expect.
@@ -39,12 +74,13 @@ bool LoadGLTexture(const std::string& texturename, int32_t& Texture, int ID) {
     if (std::optional<PcxImage> picture = LoadPCX(texturename))
         store->SetPicture(std::move(*picture));
 
+    const ImageField field = ProjectImageField(Texture);
+    ForgetPendingUpload(ID, field);
     if (!GLContextIsCurrent()) {
-        pendingSlots.insert(ID);
+        pendingUploads.push_back({ID, field, *store});
         Texture = 0;
         return true;
     }
-    pendingSlots.erase(ID);
     Texture = static_cast<int32_t>(UploadImageStore(*store));
     return true;
 }
@@ -79,19 +115,17 @@ bool GLContextIsCurrent() {
 }
 
 bool HasPendingTextures() {
-    return !pendingSlots.empty();
-}
-
-void FlushPendingTextures(const std::function<void(int slot, int32_t name)>& deliver) {
-    const std::set<int> waiting = std::move(pendingSlots);
-    pendingSlots.clear();
-    for (const int slot : waiting)
-        deliver(slot, static_cast<int32_t>(UploadImageStore(*::Texture(slot))));
+    return !pendingUploads.empty();
 }
 
 void FlushPendingTextures(model& m) {
-    FlushPendingTextures([&m](int slot, int32_t name) {
-        if (slot < static_cast<int>(m.Files.size()))
-            m.Files[static_cast<std::size_t>(slot)].TextureID = name;
-    });
+    const std::vector<PendingUpload> waiting = std::move(pendingUploads);
+    pendingUploads.clear();
+    for (const PendingUpload& upload : waiting) {
+        const auto name = static_cast<int32_t>(UploadImageStore(upload.picture));
+        if (upload.field != nullptr)
+            Program().ProjectData.*upload.field = name;
+        else if (upload.slot < static_cast<int>(m.Files.size()))
+            m.Files[static_cast<std::size_t>(upload.slot)].TextureID = name;
+    }
 }

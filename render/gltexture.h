@@ -5,7 +5,6 @@
 #include "imagestore.h"
 
 #include <cstdint>
-#include <functional>
 #include <string>
 
 class model;
@@ -13,8 +12,10 @@ class model;
 // Loads `texturename` into image store `ID` and a new GL texture whose name goes to `Texture`.
 // A file that is not a usable picture leaves the store empty, so the texture is plain white; the
 // reader's messages are shown. Returns true for slots 0 to 7, false for any other slot.
-// When no GL context is current the picture waits in its store: `Texture` becomes 0 and
-// FlushPendingTextures uploads it later.
+// When no GL context is current the picture waits, with a copy of its pixels, and `Texture`
+// becomes 0: FlushPendingTextures uploads it later and gives the name to the project's view image
+// field when `Texture` is one, else to the file of slot `ID`. A later load for the same place
+// replaces a picture still waiting.
 bool LoadGLTexture(const std::string& texturename, int32_t& Texture, int ID);
 
 // Uploads the store's pixels as a new GL texture (rows bottom-up, linear filters, no mipmaps)
@@ -24,11 +25,10 @@ uint32_t UploadImageStore(const ImageStore& store);
 // True when a GL context is current on this thread.
 bool GLContextIsCurrent();
 
-// True when some store holds a picture that waits for a GL context.
+// True when a picture waits for a GL context.
 bool HasPendingTextures();
 
-// Uploads every waiting picture, in slot order, and hands each slot's new texture name to
-// `deliver`. A GL context must be current.
-void FlushPendingTextures(const std::function<void(int slot, int32_t name)>& deliver);
-// The same, giving each name to the file record of its slot: `m.Files[slot].TextureID`.
+// Uploads every waiting picture in the order they were loaded and gives each texture name to its
+// place: a view image field of the project, or `m.Files[slot].TextureID`. A GL context must be
+// current.
 void FlushPendingTextures(model& m);

@@ -2,7 +2,6 @@
 
 #include "backdrops.h"
 #include "moxdraw.h"
-#include "viewsettings.h"
 
 #include <GL/gl.h>
 
@@ -28,39 +27,44 @@ void SetPerspectiveCamera(const model& current) {
 }
 
 // Each file sits at its hardpoint of the main file; hardpoint 0 is the origin.
-void DrawFamily(const model& current) {
+void DrawFamily(const model& current, const FrameSource& source) {
     const std::vector<FileRecord>& files = current.Files;
-    if (View().chk_thismox) {
+    const DrawSettings settings = DrawSettingsOf(source);
+    if (source.view.chk_thismox) {
         PassOverFailure([&] {
             const auto slot = static_cast<size_t>(current.m_currmox);
-            DrawFile(files.at(slot), files.at(0).HP.at(slot));
+            DrawFile(files.at(slot), files.at(0).HP.at(slot), settings);
         });
         return;
     }
-    PassOverFailure([&] { DrawFile(files.at(0), files.at(0).HP.at(0)); });
+    PassOverFailure([&] { DrawFile(files.at(0), files.at(0).HP.at(0), settings); });
     for (size_t slot = 1; slot <= kLastConnectedFile; ++slot) {
         PassOverFailure([&] {
             if (files.at(slot).Loaded)
-                DrawFile(files.at(slot), files.at(0).HP.at(slot));
+                DrawFile(files.at(slot), files.at(0).HP.at(slot), settings);
         });
     }
 }
 
 } // namespace
 
-void Draw(model& current) {
+void Draw(const FrameSource& source) {
+    if (source.current == nullptr)
+        return;
+    const model& current = *source.current;
+    const bool perspective = source.view.ViewMode == kPerspectiveView;
     PassOverFailure([&] {
-        if (View().ViewMode == kPerspectiveView)
+        if (perspective)
             SetPerspectiveCamera(current);
     });
     // A .moy or .3DS load paints no model.
     PassOverFailure([&] {
         if (current.M_Type == kMoxLoaded)
-            DrawFamily(current);
+            DrawFamily(current, source);
     });
     // Neither a picking pass nor the perspective view shows the backdrops.
     PassOverFailure([&] {
-        if (!current.RenderType && View().ViewMode != kPerspectiveView)
-            Draw_3Views();
+        if (!current.RenderType && !perspective && source.project != nullptr)
+            Draw_3Views(*source.project);
     });
 }

@@ -1,7 +1,7 @@
 #include "moxdraw.h"
 
-#include "currentmodel.h"
 #include "piggybacknumber.h"
+#include "sequencewalk.h"
 #include "viewsettings.h"
 
 #include <GL/gl.h>
@@ -262,10 +262,8 @@ void DrawInStoredOrder(const FileRecord& record, const Node& displacement,
 
 } // namespace
 
-DrawSettings CurrentDrawSettings() {
-    const ViewSettings& view = View();
-    const ProgramState& program = Program();
-    const model& current = CurrentModel();
+DrawSettings DrawSettingsOf(const FrameSource& source) {
+    const ViewSettings& view = source.view;
     DrawSettings settings;
     settings.texture = view.mnu_v_texture;
     settings.faces = view.mnu_v_faces;
@@ -275,20 +273,20 @@ DrawSettings CurrentDrawSettings() {
     settings.axisX = view.mnu_m_a_x;
     settings.axisY = view.mnu_m_a_y;
     settings.axisZ = view.mnu_m_a_z;
-    settings.lineWeight = program.LineWeight;
-    settings.lineColour = program.LineColour;
+    settings.lineWeight = source.options.LineWeight;
+    settings.lineColour = source.options.LineColour;
     settings.currentTab = view.CurrentTab;
-    settings.currmox = current.m_currmox;
-    settings.currelem = current.m_currelem;
-    settings.currnode = current.m_currnode;
-    settings.pilot = current.m_pilot;
-    settings.lg = current.m_lg;
-    settings.wing = current.m_wing;
+    if (const model* current = source.current) {
+        settings.currmox = current->m_currmox;
+        settings.currelem = current->m_currelem;
+        settings.currnode = current->m_currnode;
+        settings.pilot = current->m_pilot;
+        settings.lg = current->m_lg;
+        settings.wing = current->m_wing;
+        settings.xrot = current->m_xrot;
+        settings.yrot = current->m_yrot;
+    }
     return settings;
-}
-
-void DrawFile(const FileRecord& record, const Node& displacement) {
-    DrawFile(record, displacement, CurrentDrawSettings());
 }
 
 void DrawFile(const FileRecord& record, const Node& displacement, const DrawSettings& settings) {
@@ -302,9 +300,10 @@ void DrawFile(const FileRecord& record, const Node& displacement, const DrawSett
     glEnable(GL_CULL_FACE);
     SetFaceStyle(record, settings);
     FollowSequenceTick(settings);
-    // The walk of the tree takes the place of the stored order when the sequence is on; until it
-    // is in, both paint in stored order.
-    DrawInStoredOrder(record, displacement, settings);
+    if (sequenceOn)
+        WalkSequence(record, record.Root[0], true, displacement, settings);
+    else
+        DrawInStoredOrder(record, displacement, settings);
     DrawAxisLines(record, displacement, settings);
 }
 

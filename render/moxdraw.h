@@ -3,13 +3,14 @@
 #pragma once
 
 #include "filerecord.h"
-#include "programstate.h"
+#include "framesource.h"
 
 #include <cstdint>
 
 // Everything the painter reads besides the file record: the menu ticks, the line options, the
-// open tab, the selection and the display states. Gathered once per file, so the piggyback loop
-// reads plain values.
+// open tab, the selection, the display states and the heading and pitch the rendering sequence
+// looks along. Taken from the frame's source once per frame, so the piggyback loop reads plain
+// values.
 struct DrawSettings {
     bool texture = true;   // mnu_v_texture
     bool faces = false;    // mnu_v_faces
@@ -28,14 +29,14 @@ struct DrawSettings {
     int32_t pilot = 0;
     int32_t lg = 1;
     int32_t wing = 0;
+    float xrot = 0.0f; // m_xrot
+    float yrot = 0.0f; // m_yrot
 };
 
-// The settings as the program holds them now: View(), Program() and the open model.
-DrawSettings CurrentDrawSettings();
+// The settings of a frame drawn from `source`.
+DrawSettings DrawSettingsOf(const FrameSource& source);
 
-// Paints `record` moved by `displacement`, the file's hardpoint in the main file, with the
-// program's current settings.
-void DrawFile(const FileRecord& record, const Node& displacement);
+// Paints `record` moved by `displacement`, the file's hardpoint in the main file.
 void DrawFile(const FileRecord& record, const Node& displacement, const DrawSettings& settings);
 // The nodes of `record` as points, the selected one larger and orange.
 void DrawNodes(const FileRecord& record, const Node& displacement, const DrawSettings& settings);

@@ -1,6 +1,8 @@
 #include "oglgraphics.h"
 
 #include "currentmodel.h"
+#include "framemessages.h"
+#include "framesource.h"
 #include "modeldraw.h"
 #include "orthocamera.h"
 #include "programstate.h"
@@ -12,6 +14,8 @@
 
 #include <GL/gl.h>
 #include <GL/glu.h>
+
+#include <algorithm>
 
 namespace {
 
@@ -96,7 +100,27 @@ void OGL_Graphics::CleanUp() {
 
 void OGL_Graphics::RenderFrame() {
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
-    Draw(CurrentModel());
+    const FrameSource source = CurrentFrameSource();
+    Draw(source);
+    PostFrameMessages(source);
+}
+
+double OGL_Graphics::AspectRatio() const {
+    if (!view_)
+        return 1.0;
+    return static_cast<double>(view_->width()) / std::max(view_->height(), 1);
+}
+
+void OGL_Graphics::RequestFrame() {
+    if (view_)
+        view_->update();
+}
+
+void OGL_Graphics::SetClearColour(float red, float green, float blue) {
+    if (!MakeCurrent())
+        return;
+    glClearColor(red, green, blue, 0.0f);
+    RequestFrame();
 }
 
 OGL_Graphics& OGL() {

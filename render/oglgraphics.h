@@ -30,9 +30,16 @@ public:
     void ReSizeGLScene(int Width, int Height);
     // Lets go of the context; called once after the main loop has ended.
     void CleanUp();
-    // One frame: clear, then the open model. The context must be current; the view swaps the
-    // buffers when its painting ends.
+    // One frame: clear, then the open model; messages met while painting are shown after it. The
+    // context must be current; the view swaps the buffers when its painting ends.
     void RenderFrame();
+    // Inner width over inner height of the view; 1 without a view. A height of 0 counts as 1.
+    double AspectRatio() const;
+    // Asks the view for a frame. GL state changed outside a frame (the camera, the clear colour)
+    // is not seen by the repaint-on-change, so whatever changes it asks for the frame itself.
+    void RequestFrame();
+    // The sky: the clear colour of every later frame, given as GL intensities; the view repaints.
+    void SetClearColour(float red, float green, float blue);
 
 private:
     QPointer<QOpenGLWindow> view_;

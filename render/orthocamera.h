@@ -1,6 +1,8 @@
 // SetOrtho: the projection and turn of the six orthographic views.
 #pragma once
 
-// Sets up the orthographic view of the current ViewMode with half-height `zoom` and pan `x`, `y`,
-// and stores the three values in the open model's camera fields.
+// Stores `zoom`, `x`, `y` in the open model's m_zoom, m_xpos, m_ypos and, when the view has a GL
+// context, sets up the orthographic view of the current ViewMode: 2 * |zoom| model units high,
+// its width following the view's aspect ratio, panned by x and y, eye depths -200 to 1000, and
+// the turn that shows the model from the side the ViewMode names. Asks for a frame.
 void SetOrtho(float& zoom, float& x, float& y);

@@ -1,8 +1,11 @@
-// A fingerprint of everything a frame of the view is painted from: the open model with its files,
-// the view state and the options. The frame loop compares it between frames and leaves the view
-// alone while nothing that shows has changed.
+// A fingerprint of what a frame of the view is drawn from. The frame loop compares it between
+// frames and leaves the view alone while nothing that shows has changed.
 #pragma once
+
+#include "framesource.h"
 
 #include <cstdint>
 
-uint64_t SceneFingerprint();
+// Taken over every member of `source`, and of the model it points to, down to the last byte of
+// every file: nothing is left out by a list of fields kept by hand.
+uint64_t SceneFingerprint(const FrameSource& source);

@@ -6,7 +6,9 @@ packages=(
     cmake ninja-build g++ clang libclang-rt-14-dev clang-format
     qt6-base-dev qt6-qpa-plugins libqt6opengl6-dev libgl-dev libglu1-mesa-dev libgl1-mesa-dri
     nlohmann-json3-dev libgtest-dev libgmock-dev libbenchmark-dev
+    qt6-svg-dev
     xvfb xauth fonts-dejavu-core
+    desktop-file-utils xdg-utils shared-mime-info libglib2.0-bin
 )
 
 missing=()

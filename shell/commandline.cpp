@@ -1,6 +1,7 @@
 #include "commandline.h"
 
 #include "currentmodel.h"
+#include "repeatedmessages.h"
 
 std::string CommandLine(int argc, const char* const* argv) {
     std::string line;
@@ -13,6 +14,7 @@ std::string CommandLine(int argc, const char* const* argv) {
 }
 
 void OpenModelFromCommandLine(const std::string& line) {
+    const RepeatedMessages oneLoad;
     std::string name = line;
     CurrentModel().Load(name);
 }

@@ -1,5 +1,6 @@
 #include "framepacer.h"
 
+#include "framesource.h"
 #include "gltexture.h"
 #include "oglgraphics.h"
 #include "scenefingerprint.h"
@@ -22,7 +23,7 @@ void FramePacer::Tick() {
         return;
     // The window system repaints an exposed or resized view by itself; what is left to notice
     // is a change of the scene.
-    const uint64_t scene = SceneFingerprint();
+    const uint64_t scene = SceneFingerprint(CurrentFrameSource());
     if (painted_ == scene && !HasPendingTextures())
         return;
     painted_ = scene;

@@ -2,117 +2,90 @@
 
 #include "configfile.h"
 #include "currentmodel.h"
-#include "framepacer.h"
+#include "fileassociation.h"
 #include "glview.h"
-#include "homecamera.h"
 #include "modelhost.h"
 #include "oglgraphics.h"
+#include "optionsdialog.h"
+#include "programstate.h"
+#include "repeatedmessages.h"
+#include "toolbarimages.h"
 
 #include <QAction>
 #include <QCloseEvent>
-#include <QHBoxLayout>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QLabel>
 #include <QMenuBar>
+#include <QOpenGLContext>
+#include <QOpenGLFunctions>
 #include <QScreen>
-#include <QVBoxLayout>
+#include <QToolBar>
+
+#include <functional>
 
 namespace {
 
 constexpr const char* kTitle = "Skylathe";
 constexpr const char* kSaveQuestion = "Do you wish to save the current file(s) before exiting?";
-constexpr const char* kPickHelp = "Left Mouse: PICK";
-constexpr int kFirstTab = 1;
+constexpr const char* kModelFilter = "MOX Model (*.mox);;MOY Model (*.moy)";
+constexpr const char* kProjectFilter = "Skylathe Projects (*.3vw)";
+constexpr int kRecentEntries = 4;
 
-// The client area the window opens with, and the left pane and help label within it.
+// The client area the window opens with.
 constexpr int kClientWidth = 952;
 constexpr int kClientHeight = 772;
-constexpr int kPaneWidth = 385;
-constexpr int kHelpLeft = 24;
-constexpr int kHelpWidth = 329;
-constexpr int kHelpHeight = 33;
-constexpr int kHelpBottomGap = 7;
+
+// The bare name of the file `path` names as it stands on disk now; empty when it is gone.
+QString BareNameOnDisk(const std::string& path) {
+    const QFileInfo file(QString::fromStdString(path));
+    return file.exists() ? file.fileName() : QString();
+}
+
+// "&1  PLANEF.MOX" for entry `i`; false when the entry is empty.
+bool RecentCaption(const std::string& entry, int i, QString& caption) {
+    if (entry == kNoRecent)
+        return false;
+    caption = QStringLiteral("&%1  %2").arg(i + 1).arg(BareNameOnDisk(entry));
+    return true;
+}
+
+// A new model, then `open` on it, with the GL context current for its textures; a message that
+// repeats within the load shows once.
+void OpenIntoNewModel(const std::function<void(model&)>& open) {
+    const RepeatedMessages oneLoad;
+    ReplaceCurrentModel();
+    OGL().MakeCurrent();
+    open(CurrentModel());
+}
 
 } // namespace
 
+// The images and desktop files live in a static library, whose resources are registered by hand.
+static void LoadShellResources() {
+    Q_INIT_RESOURCE(images);
+}
+
 frm_main::frm_main() {
+    LoadShellResources();
     setObjectName("frm_main");
     setWindowTitle(kTitle);
+    setWindowIcon(ProgramIcon());
     BuildMenus();
+    BuildToolbar();
     BuildPanes();
-    resize(kClientWidth, kClientHeight + menuBar()->sizeHint().height());
+    resize(kClientWidth,
+           kClientHeight + menuBar()->sizeHint().height() + tlb_main->sizeHint().height());
     if (const QScreen* shown = screen())
         move(shown->availableGeometry().center() - rect().center());
 }
 
-void frm_main::BuildMenus() {
-    mnu_file = menuBar()->addMenu("&Model");
-    mnu_file->setObjectName("mnu_file");
-    mnu_f_saveall = mnu_file->addAction("Save A&ll");
-    mnu_f_saveall->setObjectName("mnu_f_saveall");
-    connect(mnu_f_saveall, &QAction::triggered, this, &frm_main::mnu_f_saveall_Click);
-    mnu_file->addSeparator()->setObjectName("mnu_f_5");
-    mnu_f_exit = mnu_file->addAction("E&xit");
-    mnu_f_exit->setObjectName("mnu_f_exit");
-    connect(mnu_f_exit, &QAction::triggered, this, &QWidget::close);
-
-    mnu_view = menuBar()->addMenu("&View");
-    mnu_view->setObjectName("mnu_view");
-    mnu_v_texture = AddViewTick("mnu_v_texture", "Text&ured Faces", &ViewSettings::mnu_v_texture);
-    mnu_v_faces = AddViewTick("mnu_v_faces", "&Face Outlines", &ViewSettings::mnu_v_faces);
-    mnu_v_nodes = AddViewTick("mnu_v_nodes", "&Nodes", &ViewSettings::mnu_v_nodes);
-    mnu_v_rs = AddViewTick("mnu_v_rs", "&Rendering Sequence", &ViewSettings::mnu_v_rs);
-    // The tick shows the state of the toolbar button RS, which alone changes it.
-    mnu_v_rs->setEnabled(false);
-}
-
-// A checkable View entry bound to its tick in the view state: the entry starts from the tick and
-// every change of the entry's check mark writes the tick.
-QAction* frm_main::AddViewTick(const char* name, const char* caption, bool ViewSettings::*tick) {
-    QAction* entry = mnu_view->addAction(caption);
-    entry->setObjectName(name);
-    entry->setCheckable(true);
-    entry->setChecked(View().*tick);
-    connect(entry, &QAction::toggled, this, [tick](bool checked) { View().*tick = checked; });
-    return entry;
-}
-
-void frm_main::BuildPanes() {
-    auto* central = new QWidget(this);
-    auto* columns = new QHBoxLayout(central);
-    columns->setContentsMargins(0, 0, 0, 0);
-    columns->setSpacing(0);
-
-    Pic_Edit = new QWidget(central);
-    Pic_Edit->setObjectName("Pic_Edit");
-    Pic_Edit->setFixedWidth(kPaneWidth);
-    auto* pane = new QVBoxLayout(Pic_Edit);
-    pane->setContentsMargins(kHelpLeft, 0, kPaneWidth - kHelpLeft - kHelpWidth, kHelpBottomGap);
-    pane->addStretch();
-    lbl_help = new QLabel(Pic_Edit);
-    lbl_help->setObjectName("lbl_help");
-    lbl_help->setFrameStyle(QFrame::Box | QFrame::Plain);
-    lbl_help->setFixedHeight(kHelpHeight);
-    lbl_help->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    pane->addWidget(lbl_help);
-    columns->addWidget(Pic_Edit);
-
-    // The GL surface is a native window of its own, so that a frame is painted straight into it
-    // rather than composed into the main window.
-    glView = new GLView;
-    glView->setObjectName("pic_render");
-    pic_render = QWidget::createWindowContainer(glView, central);
-    pic_render->setObjectName("pic_render");
-    pic_render->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    columns->addWidget(pic_render, 1);
-    framePacer = new FramePacer(*glView);
-
-    setCentralWidget(central);
-}
+frm_main::~frm_main() = default;
 
 void frm_main::Form_Load() {
-    View().CurrentTab = kFirstTab;
-    View().ToolMode = kPickTool;
-    lbl_help->setText(kPickHelp);
+    WriteFileAssociation();
+    SelectTab(kModelInfoTab);
+    mnu_m_pick_Click();
     ReplaceCurrentModel();
 }
 
@@ -126,14 +99,36 @@ bool frm_main::Form_Unload() {
         if (answer == MessageAnswer::Yes)
             mnu_f_saveall->trigger();
     }
+    if (options_ != nullptr)
+        options_->close();
     WriteConfig();
     OGL().bRunning = false;
     emit Unloaded();
     return true;
 }
 
-// The recent entries come with the configuration file; until then the menus have none.
-void frm_main::UpdateRecentMenus() {}
+void frm_main::UpdateRecentMenus() {
+    Entry("mnu_f_2")->setVisible(false);
+    Entry("mnu_p_1")->setVisible(false);
+    const ProgramState& state = Program();
+    for (int i = 0; i < kRecentEntries; ++i) {
+        QString caption;
+        QAction* model = findChild<QAction*>(QStringLiteral("mnu_f_recent(%1)").arg(i));
+        model->setVisible(false);
+        if (RecentCaption(state.RecentModels[i], i, caption)) {
+            model->setText(caption);
+            model->setVisible(true);
+            Entry("mnu_f_2")->setVisible(true);
+        }
+        QAction* project = findChild<QAction*>(QStringLiteral("mnu_p_recent(%1)").arg(i));
+        project->setVisible(false);
+        if (RecentCaption(state.RecentProjects[i], i, caption)) {
+            project->setText(caption);
+            project->setVisible(true);
+            Entry("mnu_p_1")->setVisible(true);
+        }
+    }
+}
 
 void frm_main::closeEvent(QCloseEvent* event) {
     if (Form_Unload())
@@ -142,16 +137,86 @@ void frm_main::closeEvent(QCloseEvent* event) {
         event->ignore();
 }
 
+// A file dialog of the window system's own kind; an empty name when the user cancels.
+QString frm_main::AskForFile(bool saving, const char* title, const char* filter) {
+    return saving ? QFileDialog::getSaveFileName(this, title, QString(), filter)
+                  : QFileDialog::getOpenFileName(this, title, QString(), filter);
+}
+
+void frm_main::OpenModel(std::string fileName) {
+    OpenIntoNewModel([&fileName](model& opened) { opened.Load(fileName); });
+}
+
+void frm_main::OpenProject(std::string fileName) {
+    OpenIntoNewModel([&fileName](model& opened) { opened.LoadProject(fileName); });
+}
+
+void frm_main::mnu_f_load_Click() {
+    const QString name = AskForFile(false, "Load Model", kModelFilter);
+    if (!name.isEmpty())
+        OpenModel(name.toStdString());
+}
+
+void frm_main::mnu_f_save_Click() {
+    CurrentModel().Save("ONE");
+}
+
+void frm_main::mnu_f_saveas_Click() {
+    const QString name = AskForFile(true, "Save Model", kModelFilter);
+    if (!name.isEmpty())
+        CurrentModel().Save(name.toStdString());
+}
+
 void frm_main::mnu_f_saveall_Click() {
     CurrentModel().Save("ALL");
 }
 
-void frm_main::mnu_v_persp_Click() {
-    ResetPerspectiveCamera(CurrentModel());
+void frm_main::mnu_f_recent_Click(int entry) {
+    OpenModel(Program().RecentModels.at(static_cast<std::size_t>(entry)));
+}
+
+void frm_main::mnu_f_loadproject_Click() {
+    const QString name = AskForFile(false, "Load Project", kProjectFilter);
+    if (!name.isEmpty())
+        OpenProject(name.toStdString());
+}
+
+void frm_main::mnu_f_saveproject_Click() {
+    CurrentModel().SaveProject();
+}
+
+void frm_main::mnu_p_recent_Click(int entry) {
+    OpenProject(Program().RecentProjects.at(static_cast<std::size_t>(entry)));
+}
+
+void frm_main::mnu_f_options_Click() {
+    if (options_ == nullptr)
+        options_ = new frm_options(*this);
+    options_->show();
+    options_->raise();
+    options_->activateWindow();
+}
+
+// The texture window fills this with its opening.
+void frm_main::mnu_v_texwindow_Click() {}
+
+void frm_main::mnu_h_about_Click() {
+    QString versions = QStringLiteral("Qt %1").arg(qVersion());
     if (OGL().MakeCurrent()) {
-        const qreal ratio = glView->devicePixelRatio();
-        OGL().ReSizeGLScene(static_cast<int>(glView->width() * ratio),
-                            static_cast<int>(glView->height() * ratio));
+        const auto* glVersion = reinterpret_cast<const char*>(
+            QOpenGLContext::currentContext()->functions()->glGetString(GL_VERSION));
+        if (glVersion != nullptr)
+            versions += QStringLiteral(", OpenGL %1").arg(glVersion);
     }
-    glView->update();
+    const QString text =
+        QStringLiteral("Skylathe For Windows\nVersion: %1.%2\n\n"
+                       "A model editor for the .mox models of the flight simulator,\n"
+                       "written by the Skylathe developers.\n"
+                       "This program comes with no warranty: keep copies of your models.\n\n"
+                       "Skylathe %3, %4")
+            .arg(SKYLATHE_VERSION_MAJOR)
+            .arg(SKYLATHE_VERSION_MINOR)
+            .arg(SKYLATHE_VERSION)
+            .arg(versions);
+    Host().ShowMessage(text.toStdString(), MessageButtons::Ok, MessageIcon::None, kTitle);
 }

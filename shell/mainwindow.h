@@ -1,32 +1,107 @@
-// frm_main, the one main window: the menu bar, the left pane with the help label, and the GL
-// view `pic_render` that fills the rest.
+// frm_main, the one main window: menu bar, toolbar tlb_main, the left pane Pic_Edit with the tab
+// strip, the seven panel frames and the help label, and the GL view `pic_render` that fills the
+// rest.
 #pragma once
 
 #include "viewsettings.h"
 
 #include <QMainWindow>
+#include <QPointer>
+
+#include <array>
+#include <string>
 
 class FramePacer;
 class GLView;
 class QAction;
+class QActionGroup;
 class QCloseEvent;
+class QFrame;
 class QLabel;
 class QMenu;
+class QPushButton;
+class QTabWidget;
+class QToolBar;
+class frm_options;
 
 class frm_main : public QMainWindow {
     Q_OBJECT
 public:
     frm_main();
+    ~frm_main() override;
 
-    // The load handler: the first tab, the Pick tool with its help text, a new empty model.
+    // The load handler: the file association, the first tab, the Pick tool with its help text,
+    // a new empty model.
     void Form_Load();
     // The closing sequence: asks about saving when a model is open, writes the configuration and
     // ends the main loop. False when the answer was Cancel and the program runs on.
     bool Form_Unload();
     // Rebuilds the recent entries of the Model and Project menus from the recent lists.
     void UpdateRecentMenus();
+
+    // Selects tab `tab` (1 to 7) of Tab_Edit and runs the tab switch, as a click on it does; the
+    // keys F1 to F7 of the view call this.
+    void SelectTab(int tab);
+    // The tab switch for the selected tab: pane widths, the panel fill, CurrentTab.
+    void Tab_Edit_Click();
+    // Lays out the pane and the view for the window's present size.
+    void Form_Resize();
+    // Opens or closes the left pane, leaving its button in sight.
+    void cmd_showhide_Click();
+
+    // The views: each of the six orthographic ones starts at half-height 125 with no pan.
+    void mnu_v_left_Click();
+    void mnu_v_top_Click();
+    void mnu_v_front_Click();
+    void mnu_v_underside_Click();
+    void mnu_v_right_Click();
+    void mnu_v_back_Click();
     // The perspective view with its fixed camera; every load ends with it.
     void mnu_v_persp_Click();
+    void mnu_v_zoomextents_Click();
+    // The mouse tools.
+    void mnu_v_pan_Click();
+    void mnu_v_rotate_Click();
+    void mnu_v_zoom_Click();
+    void mnu_m_pick_Click();
+    void mnu_m_move_Click();
+    void mnu_v_bank_Click();
+    // The axis of the Move tool.
+    void mnu_m_a_x_Click();
+    void mnu_m_a_y_Click();
+    void mnu_m_a_z_Click();
+    // The drawing toggles: each flips its tick and sets its toolbar button to match.
+    void mnu_v_texture_Click();
+    void mnu_v_faces_Click();
+    void mnu_v_nodes_Click();
+    void mnu_v_rs_Click();
+    // The state buttons of the toolbar: a click steps the state, a choice in the drop-down sets it.
+    void Pilot_Click();
+    void LG_Click();
+    void Wing_Click();
+    // Gives toolbar button `button` ("Pilot", "LG", "Wing") the image `image` of ImgLst_Toolbar.
+    void SetButtonImage(const QString& button, const QString& image);
+    // The toolbar button of `key`, or nullptr.
+    QAction* Button(const QString& key) const;
+
+    // The texture window, opened from the View menu.
+    void mnu_v_texwindow_Click();
+    // When the main window is minimised, the texture window follows.
+    void frm_texture_Minimise();
+    // Entering the Centre Mover tab puts its running totals back to 0.
+    void ResetCentreMover();
+
+    // The Model and Project menus.
+    void mnu_f_load_Click();
+    void mnu_f_save_Click();
+    void mnu_f_saveas_Click();
+    void mnu_f_saveall_Click();
+    void mnu_f_recent_Click(int entry);
+    void mnu_f_loadproject_Click();
+    void mnu_f_saveproject_Click();
+    void mnu_p_recent_Click(int entry);
+    void mnu_f_options_Click();
+    void mnu_h_about_Click();
 
     QMenu* mnu_file = nullptr;
     QAction* mnu_f_saveall = nullptr;
@@ -36,7 +111,12 @@ public:
     QAction* mnu_v_faces = nullptr;
     QAction* mnu_v_nodes = nullptr;
     QAction* mnu_v_rs = nullptr;
+    QToolBar* tlb_main = nullptr;
     QWidget* Pic_Edit = nullptr;
+    QTabWidget* Tab_Edit = nullptr;
+    // fra_edit(1) to fra_edit(7), by tab number; entry 0 stays empty.
+    std::array<QFrame*, 8> fra_edit{};
+    QPushButton* cmd_showhide = nullptr;
     QLabel* lbl_help = nullptr;
     // The view: a widget that holds the GL surface `glView` and keeps it at its own place and size.
     QWidget* pic_render = nullptr;
@@ -50,10 +130,30 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void BuildMenus();
+    void BuildToolbar();
     void BuildPanes();
-    QAction* AddViewTick(const char* name, const char* caption, bool ViewSettings::*tick);
-    void mnu_f_saveall_Click();
+    void BuildPanelFrames();
+    QAction* AddViewTick(QMenu* menu, const char* name, const char* caption,
+                         bool ViewSettings::*tick);
+    QAction* Entry(const char* name) const;
+    void ShowOrthoView(int32_t mode);
+    void TickView(int32_t mode);
+    void ChooseTool(int32_t tool);
+    void ChooseAxis(int32_t axis);
+    void FlipToggle(const char* entry);
+    void StepState(const char* button);
+    void SetState(const char* button, int value);
+    void OpenModel(std::string fileName);
+    void OpenProject(std::string fileName);
+    QString AskForFile(bool saving, const char* title, const char* filter);
+
+    QActionGroup* viewEntries_ = nullptr;
+    QActionGroup* toolEntries_ = nullptr;
+    QActionGroup* axisEntries_ = nullptr;
+    QPointer<frm_options> options_;
 };

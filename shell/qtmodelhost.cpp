@@ -4,8 +4,11 @@
 #include "viewsettings.h"
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
 #include <QMessageBox>
+#include <QSpinBox>
 
 namespace {
 
@@ -70,8 +73,38 @@ MessageAnswer QtModelHost::ShowMessage(const std::string& text, MessageButtons b
     }
 }
 
+template <typename Control> Control* QtModelHost::Find(const char* name) const {
+    return window_ != nullptr ? window_->findChild<Control*>(name) : nullptr;
+}
+
+void QtModelHost::SetFamilyList(const std::vector<std::string>& rows) {
+    if (auto* list = Find<QComboBox>("cbo_1_mox")) {
+        list->clear();
+        for (const std::string& row : rows)
+            list->addItem(QString::fromStdString(row));
+    }
+}
+
+void QtModelHost::SetFamilyListRow(int row) {
+    auto* list = Find<QComboBox>("cbo_1_mox");
+    if (list != nullptr && row >= 0 && row < list->count())
+        list->setCurrentIndex(row);
+}
+
 void QtModelHost::SetShowThisMoxOnly(bool on) {
     View().chk_thismox = on;
+    if (auto* tick = Find<QCheckBox>("chk_thismox"))
+        tick->setChecked(on);
+}
+
+void QtModelHost::SetSpinValue(const std::string& name, int value) {
+    if (auto* spin = Find<QSpinBox>(name.c_str()))
+        spin->setValue(value);
+}
+
+void QtModelHost::SetToolbarImage(const std::string& button, const std::string& image) {
+    if (window_ != nullptr)
+        window_->SetButtonImage(QString::fromStdString(button), QString::fromStdString(image));
 }
 
 void QtModelHost::SetWindowTitle(const std::string& title) {
@@ -80,7 +113,8 @@ void QtModelHost::SetWindowTitle(const std::string& title) {
 }
 
 void QtModelHost::ShowFirstEditTab() {
-    View().CurrentTab = 1;
+    if (window_ != nullptr)
+        window_->SelectTab(kModelInfoTab);
 }
 
 void QtModelHost::SetModifyAxis(int32_t axis) {

@@ -1,5 +1,7 @@
 // The window's side of ModelHost: messages and questions as modal message boxes, and the window
-// changes that loads and saves make (title, help label, view and selection resets).
+// changes that loads and saves make (family list, spins, title, help label, tabs, view, toolbar
+// images). Each control is looked up by its name at the time of the call, so that a panel that
+// brings its own control of that name is served the same way.
 #pragma once
 
 #include "modelhost.h"
@@ -13,11 +15,15 @@ public:
 
     MessageAnswer ShowMessage(const std::string& text, MessageButtons buttons, MessageIcon icon,
                               const std::string& title) override;
+    void SetFamilyList(const std::vector<std::string>& rows) override;
+    void SetFamilyListRow(int row) override;
     void SetShowThisMoxOnly(bool on) override;
     void SetWindowTitle(const std::string& title) override;
     void ShowFirstEditTab() override;
     void SetModifyAxis(int32_t axis) override;
+    void SetSpinValue(const std::string& name, int value) override;
     void ShowPerspectiveView() override;
+    void SetToolbarImage(const std::string& button, const std::string& image) override;
     void UpdateRecentMenus() override;
     std::string HelpCaption() override;
     void SetHelpCaption(const std::string& caption) override;
@@ -26,5 +32,7 @@ public:
     void LetEventsRun() override;
 
 private:
+    template <typename Control> Control* Find(const char* name) const;
+
     frm_main* window_ = nullptr;
 };

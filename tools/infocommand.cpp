@@ -16,9 +16,6 @@ constexpr const char* kDescription =
     "measures of the assembled model follow.";
 constexpr const char* kUsage = "moxtool info FILE.mox...";
 
-// The hardpoint codes of slots 1 to 6.
-constexpr uint8_t kSlotCodes[] = {25, 26, 27, 28, 29, 10};
-
 // The stored texture name without its trailing NUL or blank characters, as a JSON string.
 std::string TextureText(const TextureName& texture) {
     std::string name(texture.begin(), texture.end());
@@ -35,25 +32,25 @@ int CountPiggybacks(const FileRecord& record) {
 
 // "slot 1 (code 25) x 10 y 20 z 30" for every slot a hardpoint of the file filled.
 std::string Hardpoints(const FileRecord& record) {
-    bool filled[std::size(kSlotCodes)] = {};
+    bool filled[std::size(kHardpointCodes)] = {};
     for (int i = 0; i < record.NumElements && static_cast<size_t>(i) < record.Elements.size();
          ++i) {
         const ElementList& list = record.Elements[i];
         for (int j = 0; j < list.Count && static_cast<size_t>(j) < list.Items.size(); ++j) {
             const Piggyback& item = list.Items[j];
-            const auto* code = std::find(std::begin(kSlotCodes), std::end(kSlotCodes), item.Att1);
-            if (item.Type == kTypeHardpoint && code != std::end(kSlotCodes) &&
-                !item.NodeList.empty() && item.NodeList[0] < record.Nodes.size())
-                filled[code - std::begin(kSlotCodes)] = true;
+            const int slot = HardpointSlot(item.Att1);
+            if (item.Type == kTypeHardpoint && slot > 0 && !item.NodeList.empty() &&
+                item.NodeList[0] < record.Nodes.size())
+                filled[slot - 1] = true;
         }
     }
     std::string text;
-    for (size_t s = 0; s < std::size(kSlotCodes); ++s) {
+    for (size_t s = 0; s < std::size(kHardpointCodes); ++s) {
         if (!filled[s])
             continue;
         const Node& node = record.HP[s + 1];
         text += (text.empty() ? "" : "; ") + std::string("slot ") + std::to_string(s + 1) +
-                " (code " + std::to_string(kSlotCodes[s]) + ") x " + std::to_string(node.X) +
+                " (code " + std::to_string(kHardpointCodes[s]) + ") x " + std::to_string(node.X) +
                 " y " + std::to_string(node.Y) + " z " + std::to_string(node.Z);
     }
     return text.empty() ? "none" : text;

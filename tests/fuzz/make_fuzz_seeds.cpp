@@ -1,5 +1,6 @@
 // Writes the starting corpus of every fuzz target: make_fuzz_seeds DIR writes DIR/fuzz_NAME/*.
 #include "bytefile.h"
+#include "configtext.h"
 #include "moxjson.h"
 #include "moxreader.h"
 #include "pcxwriter.h"
@@ -75,6 +76,19 @@ bool WriteMoxSeeds(const fs::path& root) {
     return written;
 }
 
+// A configuration as the program writes it, with every option away from its default.
+bool WriteConfigSeed(const fs::path& folder) {
+    fs::create_directories(folder);
+    ProgramState state;
+    state.RecentModels[0] = "/models/with blanks/PLANEF.MOX";
+    state.RecentProjects[1] = "/models/TRACE.3vw";
+    state.LineWeight = 3;
+    state.LineColour = {0, 7, 255};
+    state.IncrementalSave = false;
+    const std::string text = ConfigText(state);
+    return WriteSeed(folder, "written", {text.begin(), text.end()});
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -84,7 +98,8 @@ int main(int argc, char** argv) {
     }
     const fs::path root = argv[1];
     fs::create_directories(root);
-    if (!WriteMoxSeeds(root) || !WritePcxSeeds(root / "fuzz_pcx")) {
+    if (!WriteMoxSeeds(root) || !WritePcxSeeds(root / "fuzz_pcx") ||
+        !WriteConfigSeed(root / "fuzz_config")) {
         std::cerr << "make_fuzz_seeds: cannot write the seeds under " << root << "\n";
         return 1;
     }

@@ -17,7 +17,6 @@ namespace {
 constexpr float kCameraDistance = -100.0f;
 constexpr size_t kFeedbackFloats = 1 << 20;
 constexpr int kFeedbackVertexFloats = 3; // GL_3D
-constexpr int kTextureSide = 4;
 constexpr size_t kSelectionEntries = 1 << 16;
 
 } // namespace
@@ -188,15 +187,21 @@ std::set<unsigned> HitNames() {
 }
 
 int32_t SolidTexture(uint8_t red, uint8_t green, uint8_t blue) {
+    return StripTexture({{red, green, blue}});
+}
+
+int32_t StripTexture(const std::vector<Rgb>& texels) {
     std::vector<uint8_t> pixels;
-    for (int i = 0; i < kTextureSide * kTextureSide; ++i)
-        pixels.insert(pixels.end(), {red, green, blue});
+    for (const Rgb& texel : texels)
+        pixels.insert(pixels.end(),
+                      {static_cast<uint8_t>(texel.red), static_cast<uint8_t>(texel.green),
+                       static_cast<uint8_t>(texel.blue)});
     GLuint name = 0;
     glGenTextures(1, &name);
     glBindTexture(GL_TEXTURE_2D, name);
     glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
-    glTexImage2D(GL_TEXTURE_2D, 0, GL_RGB, kTextureSide, kTextureSide, 0, GL_RGB, GL_UNSIGNED_BYTE,
-                 pixels.data());
+    glTexImage2D(GL_TEXTURE_2D, 0, GL_RGB, static_cast<GLsizei>(texels.size()), 1, 0, GL_RGB,
+                 GL_UNSIGNED_BYTE, pixels.data());
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
     return static_cast<int32_t>(name);

@@ -56,5 +56,7 @@ bool Near(const Rgb& a, const Rgb& b, int tolerance);
 // Paints one frame in GL selection mode over the whole view and returns the names of all hits.
 std::set<unsigned> HitNames();
 
-// A texture of one colour, made in the current context.
+// A texture of one colour, and one of a row of texels of these colours, made in the current
+// context with nearest-texel sampling.
 int32_t SolidTexture(uint8_t red, uint8_t green, uint8_t blue);
+int32_t StripTexture(const std::vector<Rgb>& texels);

@@ -1,5 +1,7 @@
 #include "editorfixture.h"
 
+#include "configfile.h"
+
 #include "glview.h"
 #include "mainwindow.h"
 #include "oglgraphics.h"
@@ -21,6 +23,8 @@ constexpr int kFrameWaitMilliseconds = 10000;
 void EditorTest::SetUp() {
     ResetProgramState();
     ResetViewSettings();
+    // Every test starts from a configuration of the defaults, whatever an earlier one left.
+    WriteConfig();
     SetTextureLoader(&textures);
     window_ = StartUp("", &windowHost);
     host.windowSide = &windowHost;

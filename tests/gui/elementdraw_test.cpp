@@ -231,7 +231,7 @@ TEST_F(EditorTest, BrokenPiggybacksAreAbandonedAndLaterOnesStillPaint) {
     EXPECT_EQ(At(frame, OnScreen(-20, 0, -3)), SkyPixel());
 
     ASSERT_TRUE(OGL().MakeCurrent());
-    const DrawSettings settings = CurrentDrawSettings();
+    const DrawSettings settings = DrawSettingsOf(CurrentFrameSource());
     for (int16_t number : {int16_t{-5}, int16_t{-101}, int16_t{99}, int16_t{32767}})
         DrawElement(CurrentModel().Files[0], number, Node{}, settings);
     Node farAway;

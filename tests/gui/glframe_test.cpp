@@ -159,6 +159,8 @@ TEST_F(EditorTest, TheViewPaintsEachChangeInItsNextFrameAndRestsWhileNothingChan
     for (auto change : std::initializer_list<std::function<void()>>{
              [] { CurrentModel().m_zoom -= 5.0f; },
              [] { View().mnu_v_nodes = !View().mnu_v_nodes; }, [] { Program().LineWeight = 4; },
+             [] { Program().ProjectData.Span = 12; },
+             [] { OGL().SetClearColour(0.5f, 0.5f, 0.5f); },
              [] {
                  model& current = CurrentModel();
                  current.Files.resize(kFileSlots);

@@ -6,6 +6,7 @@
 #include "model.h"
 #include "pcxreader.h"
 #include "pcxwriter.h"
+#include "programstate.h"
 #include "recordinghost.h"
 #include "tempdir.h"
 #include "testpictures.h"
@@ -168,12 +169,23 @@ TEST_F(GLTextureTest, UploadsTexturesLoadedBeforeTheContextWhenTheViewFlushesThe
     EXPECT_EQ(aircraft.Files[1].TextureID, 0);
     EXPECT_TRUE(Texture(1)->HasPicture());
     EXPECT_TRUE(HasPendingTextures());
+    // Two drawings pass through the shared 3-view store, each on its way to its own field.
+    const std::string top = folder.file("top.pcx");
+    const std::string left = folder.file("left.pcx");
+    WriteFileBytes(top, EncodePcx24(4, 3, TestRgb(4, 3, 5)));
+    WriteFileBytes(left, EncodePcx24(6, 2, TestRgb(6, 2, 7)));
+    ProjectRecord& project = Program().ProjectData;
+    ASSERT_TRUE(LoadGLTexture(top, project.TopImage, kThreeViewSlot));
+    ASSERT_TRUE(LoadGLTexture(left, project.LeftImage, kThreeViewSlot));
 
     ASSERT_TRUE(context->makeCurrent(surface.get()));
     FlushPendingTextures(aircraft);
     EXPECT_FALSE(HasPendingTextures());
     ASSERT_NE(aircraft.Files[1].TextureID, 0);
     EXPECT_EQ(ReadTexture(aircraft.Files[1].TextureID).rgb, BottomUp(*ReadPcx(path).picture));
+    EXPECT_EQ(ReadTexture(project.TopImage).rgb, BottomUp(*ReadPcx(top).picture));
+    EXPECT_EQ(ReadTexture(project.LeftImage).rgb, BottomUp(*ReadPcx(left).picture));
+    EXPECT_EQ(aircraft.Files[kThreeViewSlot].TextureID, 0);
     SetTextureLoader(nullptr);
 }
 

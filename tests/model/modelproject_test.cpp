@@ -283,3 +283,28 @@ TEST_F(ModelProject, SavingIsRefusedWithoutAModelOrAFileAndNeverHalfDone) {
               1)
         << "no temporary file is left behind";
 }
+
+TEST_F(ModelProject, RelativePathsAreTakenFromTheProjectsFolderAndStayRelative) {
+    // A project beside its family and drawing, opened from elsewhere and saved again.
+    std::filesystem::create_directory(dir.file("moved"));
+    std::filesystem::create_directory(dir.file("moved/art"));
+    WriteSmallModel(dir.file("moved/SHIPF.MOX"), 5);
+    WriteSmallModel(dir.file("moved/SHIPA.MOX"), 6);
+    const std::string text = "Type=MOX\r\nF=SHIPF.MOX\r\nA=" + dir.file("moved/SHIPA.MOX") +
+                             "\r\nB=NONE\r\nC=NONE\r\nE=NONE\r\nG=NONE\r\nP=NONE\r\n\r\n"
+                             "Span=0\r\nLength=0\r\nHeight=0\r\n\r\n"
+                             "TopLeftX=0\r\nTopLeftY=0\r\nTopLeftZ=0\r\n\r\n"
+                             "Top=art\\top.pcx\r\nLeft=NONE\r\nFront=NONE\r\nNotes=\r\n";
+    const std::string project = WriteText("moved/ship.3vw", text);
+    RecordingTextureLoader textures;
+    model m;
+    m.LoadProject(project);
+
+    EXPECT_TRUE(m.CheckMOX(0));
+    EXPECT_TRUE(m.CheckMOX(1));
+    ASSERT_FALSE(textures.requests.empty());
+    EXPECT_EQ(textures.requests.back().slot, 7);
+    EXPECT_EQ(textures.requests.back().path, dir.file("moved") + "/art\\top.pcx");
+    m.SaveProject();
+    EXPECT_EQ(ReadText(project), text) << "each path as the project gave it";
+}

@@ -158,20 +158,6 @@ TEST(MoxReader, FindsTheTablesWhateverTheCounts) {
     EXPECT_EQ(record.Elements.size(), 1u);
 }
 
-TEST(MoxReader, NegativeCountsSizeNoArraysAndReadNothing) {
-    MoxBuilder builder;
-    builder.numParts = -5;
-    builder.numNodes = -1;
-    builder.numElements = -32768;
-    const FileRecord record = Read(builder);
-    EXPECT_EQ(record.NumParts, -5);
-    EXPECT_EQ(record.NumElements, -32768);
-    EXPECT_TRUE(record.Parts.empty());
-    EXPECT_EQ(record.Nodes.size(), 1u);
-    EXPECT_EQ(record.Elements.size(), 1u);
-    EXPECT_TRUE(record.Loaded);
-}
-
 TEST(MoxReader, HardpointsFillTheirSlotsTheLaterWinning) {
     MoxBuilder builder;
     builder.nodes = CountingNodes(10);
@@ -332,10 +318,4 @@ TEST(MoxReader, TheTextureNameIsUpperCasedAndEndsAtItsFiller) {
     EXPECT_EQ(name("              "), "");
     EXPECT_EQ(TexturePath("C:\\m\\plane.mox", TextureName{'t', '.', 't', 'p', 'c'}), "C:\\m\\T.PCX")
         << "the folder is kept as written";
-}
-
-TEST(MoxReader, WithoutATextureHookLoadsNoTexture) {
-    const FileRecord record = ReadMoxBytes(MoxBuilder().Build(), "X.MOX", 0);
-    EXPECT_EQ(record.PointStep, 1.0f);
-    EXPECT_EQ(record.TextureID, 0);
 }

@@ -68,32 +68,6 @@ TEST(MoxWriter, WritesTheTablesThenTheStreamsBackToBack) {
     EXPECT_EQ(SavedBytes(ReadBack(builder.Build())), builder.Build());
 }
 
-TEST(MoxWriter, RepacksStreamsInElementOrder) {
-    MoxBuilder builder;
-    builder.nodes = {Node{}, Node{}};
-    builder.streams = {
-        StreamBytes().Line(0, 1, 1).End().bytes,
-        StreamBytes().End().bytes,
-        StreamBytes().ColouredPoly({0, 1, 0}, 3).End().bytes,
-    };
-    builder.streamOrder = {2, 0, 1};
-    builder.gapBefore = 5;
-    builder.trailer = {1, 2, 3};
-    const FileRecord record = ReadBack(builder.Build());
-    const std::vector<uint8_t> saved = SavedBytes(record);
-
-    const size_t table = 22 + 3 * 12 + 2 + 3 * 2 + 2 * 8;
-    const FileRecord again = ReadBack(saved);
-    EXPECT_EQ(again.Offsets[0], static_cast<int16_t>(table + 6));
-    EXPECT_EQ(again.Offsets[1], again.Offsets[0] + 5);
-    EXPECT_EQ(again.Offsets[2], again.Offsets[1] + 1);
-    EXPECT_EQ(saved.size(), table + 6 + 5 + 1 + 7 + 1);
-    EXPECT_EQ(saved.back(), 0x00);
-    EXPECT_EQ(record.Offsets[0], static_cast<int16_t>(table + 6 + 5 + 7 + 5))
-        << "the record keeps the offsets it was read with";
-    EXPECT_EQ(again.Elements[2].Items[0].NodeList, (std::vector<uint8_t>{0, 1, 0, 0}));
-}
-
 TEST(MoxWriter, LeavesOutWhatTheReaderAddedForItself) {
     FileRecord record = ReadBack([] {
         MoxBuilder builder;
@@ -132,13 +106,6 @@ TEST(MoxWriter, LeavesOutWhatTheReaderAddedForItself) {
 
     list.Items[1].Type = kTypeNull;
     EXPECT_EQ(ReadBack(SavedBytes(record)).Elements[0].Items[0].Type, kTypeNull);
-}
-
-TEST(MoxWriter, ARecordWithoutElementsEndsWithItsNodes) {
-    MoxBuilder builder;
-    builder.nodes = {Node{1, 2, 3, 4}};
-    const std::vector<uint8_t> bytes = builder.Build();
-    EXPECT_EQ(SavedBytes(ReadBack(bytes)), bytes);
 }
 
 TEST(MoxWriter, CountsThatOutrunTheArraysAreFilledWithZeros) {

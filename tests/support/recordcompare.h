@@ -6,6 +6,6 @@
 
 #include <string>
 
-// The first difference between `a` and `b` in the persisted fields ("Nodes[3].X: 5 != 7"), or an
+// Where `a` and `b` first differ in the persisted fields ("Nodes[3]", "header"), or an
 // empty text when there is none. Offsets are compared only when asked: a save recomputes them.
 std::string RecordDifference(const FileRecord& a, const FileRecord& b, bool compareOffsets = false);

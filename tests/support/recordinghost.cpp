@@ -37,7 +37,7 @@ MessageAnswer RecordingHost::ShowMessage(const std::string& text, MessageButtons
     messages.push_back(text);
     const bool question = buttons != MessageButtons::Ok;
     calls.push_back(std::string(question ? "question " : "message ") + IconName(icon) +
-                    (title == "Skylathe" ? "" : " [" + title + "]") + ": " + text);
+                    (title == kProgramTitle ? "" : " [" + title + "]") + ": " + text);
     if (!question)
         return MessageAnswer::Ok;
     if (answers.empty())

@@ -1,6 +1,8 @@
 // The display codes, hardpoint codes and part codes the sample models use.
 #pragma once
 
+#include "elementkind.h"
+
 #include <cstdint>
 
 // Display codes and their states: a polygon shows while its Flag equals the state.
@@ -20,11 +22,11 @@ constexpr uint8_t kWingWhole = 0;
 constexpr uint8_t kWingDamaged = 1;
 
 // Hardpoint codes: those that hang the connected files, and weapon stations that fill no slot.
-constexpr uint8_t kHardpointSlot1 = 25; // A.MOX / S.MOX
-constexpr uint8_t kHardpointSlot2 = 26; // B.MOX / L.MOX
-constexpr uint8_t kHardpointSlot3 = 27; // C.MOX / D.MOX
-constexpr uint8_t kHardpointSlot4 = 28; // E.MOX
-constexpr uint8_t kHardpointSlot5 = 29; // G.MOX
+constexpr uint8_t kHardpointSlot1 = kHardpointCodes[0]; // A.MOX / S.MOX
+constexpr uint8_t kHardpointSlot2 = kHardpointCodes[1]; // B.MOX / L.MOX
+constexpr uint8_t kHardpointSlot3 = kHardpointCodes[2]; // C.MOX / D.MOX
+constexpr uint8_t kHardpointSlot4 = kHardpointCodes[3]; // E.MOX
+constexpr uint8_t kHardpointSlot5 = kHardpointCodes[4]; // G.MOX
 constexpr uint8_t kHardpointGun = 1;
 constexpr uint8_t kHardpointBomb = 30;
 

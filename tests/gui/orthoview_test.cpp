@@ -1,0 +1,231 @@
+// The six orthographic cameras and the 3-view backdrops, read back from the GL view: where each
+// side of the model lands on screen, which drawing each view shows, and what lies in front.
+#include "currentmodel.h"
+#include "drawscene.h"
+#include "editorfixture.h"
+#include "oglgraphics.h"
+#include "orthocamera.h"
+#include "programstate.h"
+#include "tempdir.h"
+#include "viewsettings.h"
+
+#include <array>
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+
+namespace {
+
+constexpr float kStartZoom = 125.0f;
+// Far enough out for the sample's box to fit the width of the view.
+constexpr float kWholeBoxZoom = 220.0f;
+constexpr int kTextured = 5;
+constexpr int16_t kMarkerDistance = 40;
+const Rgb kWhite{255, 255, 255};
+const Rgb kRed{255, 0, 0};
+const Rgb kGreen{0, 255, 0};
+const Rgb kBlue{0, 0, 255};
+const Rgb kYellow{255, 255, 0};
+const Rgb kSky{177, 228, 254};
+
+using Axis = std::array<int, 3>;
+
+// A camera as the user knows it: the side it looks from and the model axes that point to the
+// right of and up the screen.
+struct Camera {
+    const char* name;
+    int32_t mode;
+    Axis seenFrom;
+    Axis right;
+    Axis up;
+};
+
+const Camera kCameras[] = {
+    {"Left", kLeftView, {0, -1, 0}, {1, 0, 0}, {0, 0, 1}},
+    {"Top", kTopView, {0, 0, 1}, {1, 0, 0}, {0, 1, 0}},
+    {"Front", kFrontView, {-1, 0, 0}, {0, -1, 0}, {0, 0, 1}},
+    {"Underside", kUndersideView, {0, 0, -1}, {1, 0, 0}, {0, -1, 0}},
+    {"Right", kRightView, {0, 1, 0}, {-1, 0, 0}, {0, 0, 1}},
+    {"Back", kBackView, {1, 0, 0}, {0, 1, 0}, {0, 0, 1}},
+};
+
+int Dot(const Axis& axis, const std::array<double, 3>& point) {
+    return static_cast<int>(axis[0] * point[0] + axis[1] * point[1] + axis[2] * point[2]);
+}
+
+// Where a model point lands in a frame of `camera` at the start zoom: the view is 250 units high
+// and centred on the origin.
+QPoint Expected(const Camera& camera, const QImage& frame, std::array<double, 3> point,
+                float zoom = kStartZoom) {
+    const double pixelsPerUnit = frame.height() / (2.0 * zoom);
+    return {static_cast<int>(
+                std::lround(frame.width() / 2.0 + Dot(camera.right, point) * pixelsPerUnit)),
+            static_cast<int>(
+                std::lround(frame.height() / 2.0 - Dot(camera.up, point) * pixelsPerUnit))};
+}
+
+void ShowView(const Camera& camera, float zoom = kStartZoom) {
+    View().ViewMode = camera.mode;
+    float x = 0.0f;
+    float y = 0.0f;
+    SetOrtho(zoom, x, y);
+}
+
+// A closed box of six squares around the origin, each stored clockwise as seen from outside.
+TestFile Cube(int16_t half, int32_t texture) {
+    TestFile file;
+    file.record.TextureID = texture;
+    std::vector<Piggyback> faces;
+    for (int axis = 0; axis < 3; ++axis) {
+        for (int sign : {1, -1}) {
+            const int u = (axis + 1) % 3;
+            const int v = (axis + 2) % 3;
+            // Counter-clockwise from outside, then reversed to the stored order.
+            const int turn[4][2] = {{-1, -1}, {1, -1}, {1, 1}, {-1, 1}};
+            std::vector<uint8_t> nodes;
+            for (int corner = 3; corner >= 0; --corner) {
+                std::array<int16_t, 3> at{};
+                at[static_cast<size_t>(axis)] = static_cast<int16_t>(sign * half);
+                at[static_cast<size_t>(u)] = static_cast<int16_t>(turn[corner][0] * half);
+                at[static_cast<size_t>(v)] = static_cast<int16_t>(sign * turn[corner][1] * half);
+                nodes.push_back(file.AddNode(at[0], at[1], at[2]));
+            }
+            faces.push_back(Polygon(kTextured, nodes));
+        }
+    }
+    file.AddElement(faces);
+    return file;
+}
+
+} // namespace
+
+TEST_F(EditorTest, EachOrthographicViewShowsTheModelFromItsSide) {
+    ASSERT_TRUE(OGL().MakeCurrent());
+    // A white cube at the origin and a red, a green and a blue one 40 units out along X, Y, Z.
+    const Rgb colours[] = {kRed, kGreen, kBlue};
+    std::vector<FileRecord> files{Cube(6, StripTexture({kWhite})).record};
+    for (const Rgb& colour : colours)
+        files.push_back(Cube(6, StripTexture({colour})).record);
+    InstallFamily(files);
+    std::array<Node, 8>& hardpoints = CurrentModel().Files[0].HP;
+    hardpoints[1].X = kMarkerDistance;
+    hardpoints[2].Y = kMarkerDistance;
+    hardpoints[3].Z = kMarkerDistance;
+
+    for (const Camera& camera : kCameras) {
+        ShowView(camera);
+        const QImage frame = ReadFrame();
+        for (int axis = 0; axis < 3; ++axis) {
+            std::array<double, 3> marker{};
+            marker[static_cast<size_t>(axis)] = kMarkerDistance;
+            const QPoint at = Expected(camera, frame, marker);
+            // A marker on the line of sight stands in front of the white cube when it lies on
+            // the side the view is seen from, and behind it otherwise.
+            const int towardEye = Dot(camera.seenFrom, marker);
+            const Rgb expected = towardEye < 0 ? kWhite : colours[axis];
+            EXPECT_EQ(PixelAt(frame, at.x(), at.y()), expected)
+                << camera.name << " view, marker on axis " << axis << " at " << at.x() << ","
+                << at.y();
+        }
+    }
+}
+
+TEST_F(EditorTest, EachDrawingShowsBehindTheModelInItsOwnViewAndSpanZeroFoldsTwo) {
+    ASSERT_TRUE(OGL().MakeCurrent());
+    ProjectRecord& project = Program().ProjectData;
+    project.TopImage = StripTexture({kRed});
+    project.FrontImage = StripTexture({kGreen});
+    project.LeftImage = StripTexture({kBlue});
+    project.Length = 100;
+    project.Height = 60;
+    project.TopLeftX = -50;
+    project.TopLeftZ = 30;
+    // Drawings by view: Top, Left, Front, Underside, Right, Back.
+    const std::pair<int16_t, std::array<Rgb, 6>> rows[] = {
+        {80, {kRed, kBlue, kGreen, kSky, kSky, kSky}},
+        // The Top and Front drawings fold to a line; the Left one stays.
+        {0, {kSky, kBlue, kSky, kSky, kSky, kSky}},
+    };
+    for (const auto& [span, seen] : rows) {
+        project.Span = span;
+        project.TopLeftY = static_cast<int16_t>(-span / 2);
+        const int32_t modes[] = {kTopView,       kLeftView,  kFrontView,
+                                 kUndersideView, kRightView, kBackView};
+        for (size_t view = 0; view < seen.size(); ++view) {
+            ShowView(kCameras[modes[view]]);
+            const QImage frame = ReadFrame();
+            EXPECT_EQ(PixelAt(frame, frame.width() / 2, frame.height() / 2), seen[view])
+                << kCameras[modes[view]].name << " view, span " << span;
+        }
+    }
+
+    // A yellow cube inside the box is painted over the Top drawing; a picking pass paints no
+    // drawing at all.
+    project.Span = 80;
+    project.TopLeftY = -40;
+    InstallFamily({Cube(10, StripTexture({kYellow})).record});
+    const Camera& top = kCameras[kTopView];
+    ShowView(top);
+    for (const bool picking : {false, true}) {
+        CurrentModel().RenderType = picking;
+        const QImage frame = ReadFrame();
+        const QPoint model = Expected(top, frame, {0, 0, 0});
+        const QPoint drawing = Expected(top, frame, {30, 30, 0});
+        EXPECT_EQ(PixelAt(frame, model.x(), model.y()), kYellow);
+        EXPECT_EQ(PixelAt(frame, drawing.x(), drawing.y()), picking ? kSky : kRed);
+    }
+}
+
+TEST_F(EditorTest, TheSampleProjectMovedToAnotherFolderShowsItsDrawingsAroundTheFighter) {
+    ASSERT_TRUE(OGL().MakeCurrent());
+    // The sample's files in a folder of their own, named in the project without a folder.
+    const std::string sample = std::string(SAMPLE_DIR) + "/";
+    TempDir moved;
+    for (const char* name : {"PDEMOF.MOX", "PDEMOC.MOX", "PDEMOE.MOX", "PDEMOG.MOX", "PDEMO.PCX",
+                             "PDEMO_TOP.PCX", "PDEMO_LEFT.PCX", "PDEMO_FRONT.PCX"})
+        std::filesystem::copy_file(sample + name, moved.file(name));
+    std::stringstream text;
+    text << std::ifstream(sample + "PDEMO.3VW", std::ios::binary).rdbuf();
+    std::string project = text.str();
+    for (size_t at; (at = project.find(sample)) != std::string::npos;)
+        project.erase(at, sample.size());
+    std::ofstream(moved.file("PDEMO.3VW"), std::ios::binary) << project;
+
+    CurrentModel().LoadProject(moved.file("PDEMO.3VW"));
+    EXPECT_TRUE(host.messages.empty());
+    for (size_t slot : {0, 3, 4, 5})
+        EXPECT_TRUE(CurrentModel().Files[slot].Loaded) << "slot " << slot;
+    const ProjectRecord& box = Program().ProjectData;
+    const double x0 = box.TopLeftX, x1 = box.TopLeftX + box.Length;
+    const double y0 = box.TopLeftY, y1 = box.TopLeftY + box.Span;
+    const double z0 = box.TopLeftZ - box.Height, z1 = box.TopLeftZ;
+    // Two corners of the face each view shows, seen from the eye: just inside them the drawing,
+    // just outside the sky.
+    struct Face {
+        int32_t mode;
+        std::array<double, 3> low, high;
+    };
+    const Face faces[] = {{kTopView, {x0, y0, z0}, {x1, y1, z0}},
+                          {kLeftView, {x0, y1, z0}, {x1, y1, z1}},
+                          {kFrontView, {x1, y0, z0}, {x1, y1, z1}}};
+    for (const Face& face : faces) {
+        const Camera& camera = kCameras[face.mode];
+        ShowView(camera, kWholeBoxZoom);
+        const QImage frame = ReadFrame();
+        for (const auto& [corner, inward] :
+             {std::pair{face.low, 1.0}, std::pair{face.high, -1.0}}) {
+            for (const double step : {2.0, -3.0}) {
+                std::array<double, 3> at = corner;
+                for (size_t axis = 0; axis < 3; ++axis) {
+                    if (face.low[axis] != face.high[axis])
+                        at[axis] += inward * step;
+                }
+                const QPoint pixel = Expected(camera, frame, at, kWholeBoxZoom);
+                EXPECT_EQ(PixelAt(frame, pixel.x(), pixel.y()) == kSky, step < 0)
+                    << camera.name << " view at " << at[0] << "," << at[1] << "," << at[2];
+            }
+        }
+    }
+}
