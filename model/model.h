@@ -4,9 +4,11 @@
 
 #include "familynames.h"
 #include "filerecord.h"
+#include "infofields.h"
 
 #include <cstdint>
 #include <iosfwd>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -53,6 +55,14 @@ public:
     // Fills the panel of tab `TabNum` (1 to 7) from the current file; nothing unless a .mox
     // family is open (modelinfo.cpp).
     void WriteInfo(int32_t TabNum) const;
+    // Writes one numbered field (infofields.h) of the current file from the text `value`; `i`
+    // and `j` name the item as the field's row says, -1 where unused. Nothing unless a .mox
+    // family is open (modelupdate.cpp). A texture name is taken as Latin-1 bytes.
+    InfoWrite UpdateInfo(int32_t field, const std::string& value, int16_t i, int16_t j);
+    // What a field of the current file holds, as UpdateInfo takes it: a decimal number, or the
+    // 14 bytes of the texture name. None where UpdateInfo would write nothing for want of a file
+    // or an item.
+    std::optional<std::string> InfoText(int32_t field, int16_t i, int16_t j) const;
 
 private:
     // Reads `filename` into Files(slot) and notes the slot in the record.

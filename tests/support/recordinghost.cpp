@@ -155,6 +155,12 @@ void RecordingHost::SetHelpBold(bool bold) {
         windowSide->SetHelpBold(bold);
 }
 
+void RecordingHost::FillPanel(int32_t tab) {
+    calls.push_back("fill panel: " + std::to_string(tab));
+    if (windowSide != nullptr)
+        windowSide->FillPanel(tab);
+}
+
 void RecordingHost::LetEventsRun() {
     calls.emplace_back(kEventsCall);
     if (windowSide != nullptr)

@@ -33,6 +33,7 @@ public:
     void SetHelpCaption(const std::string& caption) override;
     bool HelpBold() override;
     void SetHelpBold(bool bold) override;
+    void FillPanel(int32_t tab) override;
     void LetEventsRun() override;
 
     // The calls since `mark` that are not one of the pending-event runs, which a project load
