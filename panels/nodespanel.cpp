@@ -3,6 +3,8 @@
 #include "currentmodel.h"
 #include "fieldcommit.h"
 #include "infofields.h"
+#include "nodetable.h"
+#include "panelaccess.h"
 #include "panelrows.h"
 #include "viewsettings.h"
 #include "wholenumber.h"
@@ -37,6 +39,9 @@ NodesPanel::NodesPanel(QWidget& frame) : QObject(&frame) {
         current.m_currnode = static_cast<int16_t>(upd_4_node->spin().value());
         current.WriteInfo(kNodesTab);
     });
+    connect(cmd_4_add, &QPushButton::clicked, this, [] { AddNode(CurrentModel()); });
+    connect(cmd_4_zero, &QPushButton::clicked, this, [] { RemoveNodes(CurrentModel(), true); });
+    connect(cmd_3_unused, &QPushButton::clicked, this, &NodesPanel::cmd_3_unused_Click);
 }
 
 int16_t NodesPanel::ShownNode() const {
@@ -59,11 +64,10 @@ void NodesPanel::Fill() {
     }
 }
 
-void NodesPanel::MoveNode(int32_t axis, int16_t dist) {
-    SpinWithBuddy* control = axis == kAxisX   ? upd_4_x
-                             : axis == kAxisY ? upd_4_y
-                             : axis == kAxisZ ? upd_4_z
-                                              : nullptr;
-    if (control != nullptr)
-        control->spin().setValue(control->spin().value() + dist);
+void NodesPanel::cmd_3_unused_Click() {
+    RemoveNodes(CurrentModel(), false);
+    // Whatever the answer, the chooser starts again at the first node, within the table.
+    if (const FileRecord* record = ShownRecord())
+        SetChooserTop(&upd_4_node->spin(), record->NumNodes - 1);
+    upd_4_node->spin().setValue(0);
 }

@@ -19,13 +19,10 @@ public:
     // The Nodes fill: node m_currnode of the current file; nothing while no node is selected.
     void Fill();
 
-    // Steps the shown node along an axis (30000 X, 30001 Y, 30002 Z) through its spin, so the
-    // coordinate stays inside the spin's range; any other axis does nothing.
-    void MoveNode(int32_t axis, int16_t dist);
-
 private:
     // The node that upd_4_node shows.
     int16_t ShownNode() const;
+    void cmd_3_unused_Click();
 
     SpinWithBuddy* upd_4_node;
     SpinWithBuddy* upd_4_x;

@@ -1,10 +1,11 @@
 // The Nodes panel: the fill of the chosen node, its commits, and the move of a node through its
 // spins.
 #include "currentmodel.h"
-#include "nodespanel.h"
+#include "nodetable.h"
 #include "panelfixture.h"
 #include "viewsettings.h"
 
+#include <QPushButton>
 #include <QSpinBox>
 
 namespace {
@@ -39,16 +40,36 @@ TEST_F(PanelTest, NodesFillShowsTheChosenNodeAndWritesNothing) {
 TEST_F(PanelTest, MoveNodeStepsTheShownNodeInsideTheSpinRange) {
     model& current = Open(FileWithNodes({Node{0, 0, 0, 0}, Node{10, 20, 32760, 0}}));
     Find<QSpinBox>("upd_4_node").setValue(1);
-    NodesPanel& nodes = panels->nodes();
-    nodes.MoveNode(kAxisY, -25);
-    nodes.MoveNode(kAxisX, 100);
-    nodes.MoveNode(29999, 5);
+    MoveNode(current, 0, kAxisY, -25);
+    MoveNode(current, 0, kAxisX, 100);
     const Node& moved = current.Files[0].Nodes[1];
     EXPECT_EQ(moved.Y, -15);
     EXPECT_EQ(moved.X, 32767);
-    EXPECT_EQ(moved.Z, 20);
     EXPECT_EQ(Text("txt_4_x"), "32767");
     EXPECT_EQ(current.Files[0].Nodes[0].X, 0);
+}
+
+TEST_F(PanelTest, NodeTableButtonsShowTheTableTheyLeave) {
+    // Node 1 is named by no corner.
+    model& current = Open(FileWithNodes({Node{1, 1, 1, 0}, Node{5, 6, 7, 1}}));
+    Find<QPushButton>("cmd_4_add").click();
+    EXPECT_EQ(current.Files[0].NumNodes, 3);
+    EXPECT_EQ(Text("txt_4_node"), "2");
+    EXPECT_EQ(Text("txt_4_x"), "0");
+    EXPECT_EQ(Text("txt_4_b"), "0");
+
+    host.answers = {MessageAnswer::Yes};
+    Find<QPushButton>("cmd_4_zero").click();
+    EXPECT_EQ(host.messages.back(), "Do you want to set all 2 unused nodes to ZERO?");
+    EXPECT_EQ(current.Files[0].Nodes[1].X, 0);
+
+    host.answers = {MessageAnswer::Yes};
+    Find<QPushButton>("cmd_3_unused").click();
+    EXPECT_EQ(host.messages.back(), "Do you want to delete all 2 unused nodes?");
+    EXPECT_EQ(current.Files[0].NumNodes, 1);
+    EXPECT_EQ(Find<QSpinBox>("upd_4_node").value(), 0);
+    EXPECT_EQ(Find<QSpinBox>("upd_4_node").maximum(), 0);
+    EXPECT_EQ(Text("txt_4_x"), "1");
 }
 
 } // namespace

@@ -20,6 +20,14 @@ public:
         if (auto* spin = pane_.findChild<QSpinBox*>(QString::fromStdString(name)))
             spin->setValue(value);
     }
+    int SpinValue(const std::string& name) override {
+        const auto* spin = pane_.findChild<QSpinBox*>(QString::fromStdString(name));
+        return spin != nullptr ? spin->value() : 0;
+    }
+    void SetSpinMaximum(const std::string& name, int maximum) override {
+        if (auto* spin = pane_.findChild<QSpinBox*>(QString::fromStdString(name)))
+            spin->setMaximum(maximum);
+    }
     void FillPanel(int32_t tab) override { panels_.FillPanel(tab); }
 
 private:
