@@ -3,12 +3,11 @@
 #include "mainwindow.h"
 
 #include "currentmodel.h"
+#include "editpanels.h"
 #include "framepacer.h"
 #include "glview.h"
 
 #include <QAction>
-#include <QCheckBox>
-#include <QComboBox>
 #include <QEvent>
 #include <QFrame>
 #include <QLabel>
@@ -52,18 +51,13 @@ constexpr int kNotepadShorter = 200;
 constexpr const char* kPaneOpen = "<";
 constexpr const char* kPaneClosed = ">";
 
-// The placeholders of controls that a load resets, until their panels bring their own.
-struct PlaceholderSpin {
-    int tab;
-    const char* name;
-};
-constexpr PlaceholderSpin kSpins[] = {
-    {2, "upd_2_part"}, {3, "upd_3_elem"}, {3, "upd_3_pb"}, {4, "upd_4_node"}};
+// The placeholders of the Elements tab's choosers that a load resets, until its panel brings
+// its own.
+constexpr const char* kElementSpins[] = {"upd_3_elem", "upd_3_pb"};
 constexpr int kControlLeft = 8;
 constexpr int kControlTop = 8;
 constexpr int kControlStep = 28;
 constexpr int kSpinLargest = 32767;
-constexpr int kFamilyListWidth = 153;
 constexpr int kTabCaptionPoints = 8;
 
 } // namespace
@@ -128,20 +122,14 @@ void frm_main::BuildPanelFrames() {
         frame->setGeometry(kFrameLeft, kFrameTop, kTabs[tab].frameWidth, 0);
         fra_edit[tab] = frame;
     }
-    // The family list and its "only this file" tick, which every load resets.
-    auto* family = new QComboBox(fra_edit[kModelInfoTab]);
-    family->setObjectName("cbo_1_mox");
-    family->setGeometry(kControlLeft, kControlTop, kFamilyListWidth, family->sizeHint().height());
-    auto* thisMox = new QCheckBox("Only Show This MOX?", fra_edit[kModelInfoTab]);
-    thisMox->setObjectName("chk_thismox");
-    thisMox->move(kControlLeft, kControlTop + kControlStep);
-    connect(thisMox, &QCheckBox::toggled, this, [](bool on) { View().chk_thismox = on; });
-    int row[kTabCount + 1] = {};
-    for (const PlaceholderSpin& spin : kSpins) {
-        auto* control = new QSpinBox(fra_edit[spin.tab]);
-        control->setObjectName(spin.name);
+    panels = std::make_unique<EditPanels>(*fra_edit[kModelInfoTab], *fra_edit[kPartsTab],
+                                          *fra_edit[kNodesTab]);
+    int row = 0;
+    for (const char* name : kElementSpins) {
+        auto* control = new QSpinBox(fra_edit[kElementsTab]);
+        control->setObjectName(name);
         control->setRange(-1, kSpinLargest);
-        control->move(kControlLeft, kControlTop + kControlStep * row[spin.tab]++);
+        control->move(kControlLeft, kControlTop + kControlStep * row++);
     }
 }
 

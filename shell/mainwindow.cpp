@@ -2,6 +2,7 @@
 
 #include "configfile.h"
 #include "currentmodel.h"
+#include "editpanels.h"
 #include "fileassociation.h"
 #include "glview.h"
 #include "modelhost.h"

@@ -9,8 +9,10 @@
 #include <QPointer>
 
 #include <array>
+#include <memory>
 #include <string>
 
+class EditPanels;
 class FramePacer;
 class GLView;
 class QAction;
@@ -116,6 +118,8 @@ public:
     QTabWidget* Tab_Edit = nullptr;
     // fra_edit(1) to fra_edit(7), by tab number; entry 0 stays empty.
     std::array<QFrame*, 8> fra_edit{};
+    // The panels built so far, in their frames.
+    std::unique_ptr<EditPanels> panels;
     QPushButton* cmd_showhide = nullptr;
     QLabel* lbl_help = nullptr;
     // The view: a widget that holds the GL surface `glView` and keeps it at its own place and size.

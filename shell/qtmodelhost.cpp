@@ -1,5 +1,6 @@
 #include "qtmodelhost.h"
 
+#include "editpanels.h"
 #include "mainwindow.h"
 #include "viewsettings.h"
 
@@ -100,6 +101,21 @@ void QtModelHost::SetShowThisMoxOnly(bool on) {
 void QtModelHost::SetSpinValue(const std::string& name, int value) {
     if (auto* spin = Find<QSpinBox>(name.c_str()))
         spin->setValue(value);
+}
+
+int QtModelHost::SpinValue(const std::string& name) {
+    const auto* spin = Find<QSpinBox>(name.c_str());
+    return spin != nullptr ? spin->value() : 0;
+}
+
+void QtModelHost::SetSpinMaximum(const std::string& name, int maximum) {
+    if (auto* spin = Find<QSpinBox>(name.c_str()))
+        spin->setMaximum(maximum);
+}
+
+void QtModelHost::FillPanel(int32_t tab) {
+    if (window_ != nullptr && window_->panels)
+        window_->panels->FillPanel(tab);
 }
 
 void QtModelHost::SetToolbarImage(const std::string& button, const std::string& image) {

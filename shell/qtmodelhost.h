@@ -22,6 +22,9 @@ public:
     void ShowFirstEditTab() override;
     void SetModifyAxis(int32_t axis) override;
     void SetSpinValue(const std::string& name, int value) override;
+    int SpinValue(const std::string& name) override;
+    void SetSpinMaximum(const std::string& name, int maximum) override;
+    void FillPanel(int32_t tab) override;
     void ShowPerspectiveView() override;
     void SetToolbarImage(const std::string& button, const std::string& image) override;
     void UpdateRecentMenus() override;
