@@ -4,16 +4,20 @@
 
 #include <cstdint>
 
+class CentreMoverPanel;
 class ModelInfoPanel;
 class NodesPanel;
+class NotepadPanel;
 class PartsPanel;
 class QWidget;
+class ThreeViewPanel;
 
 class EditPanels {
 public:
-    // Builds the Model Info, Parts and Nodes panels into the frames of tabs 1, 2 and 4; each
-    // frame owns its panel.
-    EditPanels(QWidget& modelInfoFrame, QWidget& partsFrame, QWidget& nodesFrame);
+    // Builds the Model Info, Parts, Nodes, Centre Mover, Notepad and 3-View Data panels into the
+    // frames of tabs 1, 2, 4, 5, 6 and 7; each frame owns its panel.
+    EditPanels(QWidget& modelInfoFrame, QWidget& partsFrame, QWidget& nodesFrame,
+               QWidget& centreMoverFrame, QWidget& notepadFrame, QWidget& threeViewFrame);
 
     // Fills the panel of tab `tab`; a tab without a panel here shows nothing.
     void FillPanel(int32_t tab) const;
@@ -21,9 +25,14 @@ public:
     ModelInfoPanel& modelInfo() const { return *modelInfo_; }
     PartsPanel& parts() const { return *parts_; }
     NodesPanel& nodes() const { return *nodes_; }
+    CentreMoverPanel& centreMover() const { return *centreMover_; }
+    ThreeViewPanel& threeView() const { return *threeView_; }
 
 private:
     ModelInfoPanel* modelInfo_;
     PartsPanel* parts_;
     NodesPanel* nodes_;
+    CentreMoverPanel* centreMover_;
+    NotepadPanel* notepad_;
+    ThreeViewPanel* threeView_;
 };

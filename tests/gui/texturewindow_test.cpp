@@ -1,6 +1,7 @@
 // The texture window: the texture of the sample fighter with the selected polygon's map outline,
 // read back from the window's pixels.
 #include "currentmodel.h"
+#include "editorfixture.h"
 #include "gltextureloader.h"
 #include "picturebox.h"
 #include "piggybacknumber.h"
@@ -8,10 +9,12 @@
 #include "texturemap.h"
 #include "texturewindow.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -141,5 +144,29 @@ TEST_P(TextureWindowTest, OutlinesTheSelectedTexturedPolygon) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Scales, TextureWindowTest, ::testing::Values("opt_100", "opt_300"));
+
+// The View menu's entry opens and closes the window once a model is open; its tick follows.
+TEST_F(EditorTest, TextureWindowFromTheViewMenu) {
+    QAction* entry = Find<QAction>("mnu_v_texwindow");
+    frm_texture* window = Find<frm_texture>("frm_texture");
+    ASSERT_EQ(window, TextureWindow());
+    const auto expect = [&](bool open, const char* what) {
+        EXPECT_EQ(window->isVisible(), open) << what;
+        EXPECT_EQ(entry->isChecked(), open) << what;
+    };
+    entry->trigger();
+    expect(false, "no model open");
+    host.answers = {MessageAnswer::Yes};
+    std::string name = std::string(SAMPLE_DIR) + "/PDEMOF.MOX";
+    CurrentModel().Load(name);
+    entry->trigger();
+    expect(true, "opened");
+    EXPECT_EQ(window->windowTitle(), "TEXTURE");
+    entry->trigger();
+    expect(false, "closed from the menu");
+    entry->trigger();
+    QTest::mouseClick(window->cmd_close, Qt::LeftButton);
+    expect(false, "closed by its button");
+}
 
 } // namespace

@@ -43,14 +43,16 @@ void PanelTest::SetUp() {
     ResetViewSettings();
     pane_ = std::make_unique<QWidget>();
     auto* column = new QVBoxLayout(pane_.get());
-    QWidget* frames[3];
-    const char* names[] = {"fra_edit(1)", "fra_edit(2)", "fra_edit(4)"};
-    for (int k = 0; k < 3; ++k) {
+    QWidget* frames[6];
+    const char* names[] = {"fra_edit(1)", "fra_edit(2)", "fra_edit(4)",
+                           "fra_edit(5)", "fra_edit(6)", "fra_edit(7)"};
+    for (int k = 0; k < 6; ++k) {
         frames[k] = new QWidget(pane_.get());
         frames[k]->setObjectName(names[k]);
         column->addWidget(frames[k]);
     }
-    panels = std::make_unique<EditPanels>(*frames[0], *frames[1], *frames[2]);
+    panels = std::make_unique<EditPanels>(*frames[0], *frames[1], *frames[2], *frames[3],
+                                          *frames[4], *frames[5]);
     paneHost_ = std::make_unique<PaneHost>(*pane_, *panels);
     host.windowSide = paneHost_.get();
     pane_->show();
