@@ -7,6 +7,7 @@ packages=(
     qt6-base-dev qt6-qpa-plugins libqt6opengl6-dev libgl-dev libglu1-mesa-dev libgl1-mesa-dri
     nlohmann-json3-dev libgtest-dev libgmock-dev libbenchmark-dev
     qt6-svg-dev
+    libcli11-dev libpng-dev libtinygltf-dev assimp-utils
     xvfb xauth fonts-dejavu-core
     desktop-file-utils xdg-utils shared-mime-info libglib2.0-bin
 )

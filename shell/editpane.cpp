@@ -96,6 +96,8 @@ void frm_main::BuildPanes() {
     bold.setBold(true);
     cmd_showhide->setFont(bold);
     cmd_showhide->setFocusPolicy(Qt::NoFocus);
+    // The first tab switch measures the pane with this width, before any resize has run.
+    cmd_showhide->resize(kButtonWidth, cmd_showhide->height());
     connect(cmd_showhide, &QPushButton::clicked, this, &frm_main::cmd_showhide_Click);
 
     lbl_help = new QLabel(Pic_Edit);

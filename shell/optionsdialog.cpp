@@ -11,8 +11,6 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QOpenGLContext>
-#include <QOpenGLFunctions>
 #include <QPushButton>
 #include <QScrollBar>
 
@@ -51,8 +49,7 @@ QColor SwatchColour(const QLabel& swatch) {
 } // namespace
 
 frm_options::frm_options(frm_main& window)
-    : QDialog(&window, Qt::Tool | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
-      window_(window) {
+    : QDialog(&window, Qt::Tool | Qt::WindowTitleHint | Qt::WindowCloseButtonHint) {
     setObjectName("frm_options");
     setWindowTitle("Options");
     setAttribute(Qt::WA_DeleteOnClose);
@@ -118,13 +115,9 @@ void frm_options::cmd_OK_Click() {
     settings.IncrementalSave = chk_save->isChecked();
     settings.LineColour = SettingOf(SwatchColour(*pic_line));
     settings.SkyColour = SettingOf(SwatchColour(*pic_sky));
-    if (OGL().MakeCurrent()) {
-        const Colour& sky = settings.SkyColour;
-        QOpenGLContext::currentContext()->functions()->glClearColor(
-            sky.red / kComponentScale, sky.green / kComponentScale, sky.blue / kComponentScale,
-            0.0f);
-    }
-    window_.glView->update();
+    const Colour& sky = settings.SkyColour;
+    OGL().SetClearColour(sky.red / kComponentScale, sky.green / kComponentScale,
+                         sky.blue / kComponentScale);
     close();
 }
 

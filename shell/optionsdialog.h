@@ -23,7 +23,6 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    frm_main& window_;
     QScrollBar* scr_weight = nullptr;
     QLabel* pic_line = nullptr;
     QLabel* pic_sky = nullptr;

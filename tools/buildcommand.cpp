@@ -13,11 +13,6 @@ constexpr const char* kDescription =
 constexpr const char* kUsage = "moxtool build IN.json OUT.mox";
 
 int RunBuild(const Arguments& args) {
-    if (ShowHelp(args, kUsage, kDescription))
-        return kExitOk;
-    if (args.size() != 2 || !NoOptions(args))
-        return UsageError(kUsage);
-
     std::string text;
     std::string error;
     if (!ReadTextFile(args[0], text, error)) {
@@ -50,5 +45,10 @@ int RunBuild(const Arguments& args) {
 } // namespace
 
 ToolCommand BuildCommand() {
-    return {"build", "write a model file from its JSON form", RunBuild};
+    return {"build", "write a model file from its JSON form", kUsage, kDescription,
+            [](CLI::App& command) {
+                return DefinePositionals(
+                    command, {{"IN", "the JSON form"}, {"OUT", "the model file to write"}},
+                    RunBuild);
+            }};
 }

@@ -4,9 +4,14 @@
 #include "moxreader.h"
 #include "moxwriter.h"
 
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <cctype>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <memory>
 #include <sstream>
 
 namespace {
@@ -26,31 +31,16 @@ std::string InputProblem(const std::string& path) {
 
 } // namespace
 
-bool ShowHelp(const Arguments& args, const char* usage, const char* description) {
-    for (const std::string& word : args) {
-        if (word == "--help" || word == "-h") {
-            std::cout << "usage: " << usage << "\n\n" << description << "\n";
-            return true;
-        }
-    }
-    return false;
-}
-
-bool NoOptions(const Arguments& args) {
-    for (const std::string& word : args) {
-        if (word.rfind("-", 0) == 0)
-            return false;
-    }
-    return true;
+CommandRun DefinePositionals(CLI::App& command, const std::vector<ArgumentName>& names,
+                             int (*run)(const Arguments& args)) {
+    auto values = std::make_shared<Arguments>(names.size());
+    for (size_t i = 0; i < names.size(); ++i)
+        command.add_option(names[i].first, (*values)[i], names[i].second)->required();
+    return [values, run] { return run(*values); };
 }
 
 void PrintError(const std::string& text) {
     std::cerr << "moxtool: " << text << "\n";
-}
-
-int UsageError(const char* usage) {
-    std::cerr << "usage: " << usage << "\n";
-    return kExitFailure;
 }
 
 bool ReadModelFile(const std::string& path, FileRecord& record, std::vector<std::string>& messages,
@@ -66,6 +56,28 @@ bool ReadModelFile(const std::string& path, FileRecord& record, std::vector<std:
         return false;
     }
     return true;
+}
+
+bool LoadModelFamily(const std::string& path, bool connected, model& family, std::string& error) {
+    error = InputProblem(path);
+    if (!error.empty())
+        return false;
+    CollectingHost host;
+    host.questionAnswer = connected ? MessageAnswer::Yes : MessageAnswer::No;
+    std::string filename = path;
+    family.Load(filename);
+    if (!family.CheckMOX(0)) {
+        error = path + ": cannot read";
+        return false;
+    }
+    return true;
+}
+
+std::string LowerCaseExtension(const std::string& path) {
+    std::string extension = std::filesystem::path(path).extension().string();
+    std::transform(extension.begin(), extension.end(), extension.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return extension;
 }
 
 bool ReadTextFile(const std::string& path, std::string& text, std::string& error) {

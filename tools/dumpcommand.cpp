@@ -2,14 +2,16 @@
 #include "commandsupport.h"
 #include "moxjson.h"
 
+#include <CLI/CLI.hpp>
+
 #include <iostream>
+#include <memory>
 
 namespace {
 
 constexpr const char* kDescription =
     "Shows every field of a model file as the editor reads it, and the "
-    "messages reading it shows.\n  --json  the JSON form that `moxtool build` "
-    "reads (docs/moxtool.md)";
+    "messages reading it shows.";
 constexpr const char* kUsage = "moxtool dump [--json] FILE.mox";
 
 // One value on one line: scalars as JSON, lists of scalars separated by blanks, objects as
@@ -75,23 +77,14 @@ void PrintText(std::ostream& out, const Json& json) {
     }
 }
 
-int RunDump(const Arguments& args) {
-    if (ShowHelp(args, kUsage, kDescription))
-        return kExitOk;
+struct DumpOptions {
     bool asJson = false;
     std::string file;
-    for (const std::string& word : args) {
-        if (word == "--json" && !asJson) {
-            asJson = true;
-        } else if (word.rfind("-", 0) == 0 || !file.empty()) {
-            return UsageError(kUsage);
-        } else {
-            file = word;
-        }
-    }
-    if (file.empty())
-        return UsageError(kUsage);
+};
 
+int RunDump(const DumpOptions& options) {
+    const bool asJson = options.asJson;
+    const std::string& file = options.file;
     FileRecord record;
     std::vector<std::string> messages;
     std::string error;
@@ -110,5 +103,11 @@ int RunDump(const Arguments& args) {
 } // namespace
 
 ToolCommand DumpCommand() {
-    return {"dump", "show every field of a model file, as text or JSON", RunDump};
+    return {"dump", "show every field of a model file, as text or JSON", kUsage, kDescription,
+            [](CLI::App& command) -> CommandRun {
+                auto options = std::make_shared<DumpOptions>();
+                command.add_flag("--json", options->asJson, "print the JSON form");
+                command.add_option("FILE", options->file, "the model file")->required();
+                return [options] { return RunDump(*options); };
+            }};
 }

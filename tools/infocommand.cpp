@@ -5,8 +5,11 @@
 #include "latin1text.h"
 #include "moxjson.h"
 
+#include <CLI/CLI.hpp>
+
 #include <algorithm>
 #include <iostream>
+#include <memory>
 
 namespace {
 
@@ -57,11 +60,6 @@ std::string Hardpoints(const FileRecord& record) {
 }
 
 int RunInfo(const Arguments& args) {
-    if (ShowHelp(args, kUsage, kDescription))
-        return kExitOk;
-    if (args.empty() || !NoOptions(args))
-        return UsageError(kUsage);
-
     int status = kExitOk;
     for (const std::string& file : args) {
         FileRecord record;
@@ -88,5 +86,10 @@ int RunInfo(const Arguments& args) {
 } // namespace
 
 ToolCommand InfoCommand() {
-    return {"info", "summarise model files: counts, texture, radius, hardpoints", RunInfo};
+    return {"info", "summarise model files: counts, texture, radius, hardpoints", kUsage,
+            kDescription, [](CLI::App& command) -> CommandRun {
+                auto files = std::make_shared<Arguments>();
+                command.add_option("FILE", *files, "model files")->required();
+                return [files] { return RunInfo(*files); };
+            }};
 }

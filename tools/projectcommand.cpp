@@ -72,11 +72,6 @@ void PrintProject(const model& loaded, const ProjectRecord& project, std::ostrea
 }
 
 int RunProject(const Arguments& args) {
-    if (ShowHelp(args, kUsage, kDescription))
-        return kExitOk;
-    if (args.size() != 1 || !NoOptions(args))
-        return UsageError(kUsage);
-
     ResetProgramState();
     CollectingHost host;
     model loaded;
@@ -96,6 +91,8 @@ int RunProject(const Arguments& args) {
 } // namespace
 
 ToolCommand ProjectCommand() {
-    return {"project", "show what a .3vw project loads: files, dimensions, drawings, notes",
-            RunProject};
+    return {"project", "show what a .3vw project loads: files, dimensions, drawings, notes", kUsage,
+            kDescription, [](CLI::App& command) {
+                return DefinePositionals(command, {{"FILE", "the project file"}}, RunProject);
+            }};
 }

@@ -12,11 +12,6 @@ constexpr const char* kDescription =
 constexpr const char* kUsage = "moxtool resave IN.mox OUT.mox";
 
 int RunResave(const Arguments& args) {
-    if (ShowHelp(args, kUsage, kDescription))
-        return kExitOk;
-    if (args.size() != 2 || !NoOptions(args))
-        return UsageError(kUsage);
-
     FileRecord record;
     std::vector<std::string> messages;
     std::string error;
@@ -36,5 +31,10 @@ int RunResave(const Arguments& args) {
 } // namespace
 
 ToolCommand ResaveCommand() {
-    return {"resave", "read a model file and write it back as the editor saves", RunResave};
+    return {"resave", "read a model file and write it back as the editor saves", kUsage,
+            kDescription, [](CLI::App& command) {
+                return DefinePositionals(
+                    command, {{"IN", "the model file to read"}, {"OUT", "the model file to write"}},
+                    RunResave);
+            }};
 }

@@ -15,10 +15,6 @@ constexpr const char* kDescription =
 constexpr const char* kUsage = "moxtool sample DIR";
 
 int RunSample(const Arguments& args) {
-    if (ShowHelp(args, kUsage, kDescription))
-        return kExitOk;
-    if (args.size() != 1 || !NoOptions(args))
-        return UsageError(kUsage);
     std::vector<std::string> written;
     std::string problem;
     if (!WriteSample(args[0], written, problem)) {
@@ -33,5 +29,8 @@ int RunSample(const Arguments& args) {
 } // namespace
 
 ToolCommand SampleCommand() {
-    return {"sample", "write the demo fighter, truck, textures, drawings and project", RunSample};
+    return {"sample", "write the demo fighter, truck, textures, drawings and project", kUsage,
+            kDescription, [](CLI::App& command) {
+                return DefinePositionals(command, {{"DIR", "the folder to write into"}}, RunSample);
+            }};
 }

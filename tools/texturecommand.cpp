@@ -1,29 +1,27 @@
-#include "texturecommand.h"
+// moxtool texture IN.pcx OUT.png|OUT.ppm: the picture the editor makes of a texture or drawing.
+#include "commandsupport.h"
 
 #include "bytefile.h"
 #include "pcxreader.h"
-#include "pngencoder.h"
+#include "pngfile.h"
 
 #include <algorithm>
-#include <cctype>
 #include <filesystem>
 #include <iostream>
 
 namespace {
 
-constexpr const char* kUsage =
-    "usage: moxtool texture IN.pcx OUT\n"
+constexpr const char* kUsage = "moxtool texture IN.pcx OUT";
+constexpr const char* kDescription =
     "Decodes a PCX texture or 3-view drawing as the editor does and writes the picture, top row\n"
     "first, as PNG or binary PPM (P6) by the extension of OUT (.png or .ppm). A 256-colour file\n"
     "gives its full bytes per line, padding columns included. Exits with status 2 when the file\n"
-    "gives no picture.\n";
+    "gives no picture.";
 
 enum class OutputKind { Png, Ppm, Unknown };
 
 OutputKind KindOf(const std::string& path) {
-    std::string extension = std::filesystem::path(path).extension().string();
-    std::transform(extension.begin(), extension.end(), extension.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    const std::string extension = LowerCaseExtension(path);
     if (extension == ".png")
         return OutputKind::Png;
     if (extension == ".ppm")
@@ -60,17 +58,7 @@ const char* Reason(PcxOutcome outcome) {
     return "no picture";
 }
 
-} // namespace
-
-int RunTextureCommand(const Arguments& args) {
-    if (args.size() == 1 && (args[0] == "--help" || args[0] == "-h")) {
-        std::cout << kUsage;
-        return kExitOk;
-    }
-    if (args.size() != 2) {
-        std::cerr << kUsage;
-        return kExitFailure;
-    }
+int RunTexture(const Arguments& args) {
     const std::string& in = args[0];
     const std::string& out = args[1];
     const OutputKind kind = KindOf(out);
@@ -88,12 +76,26 @@ int RunTextureCommand(const Arguments& args) {
     }
 
     const PcxImage& picture = *result.picture;
-    const std::vector<uint8_t> bytes = kind == OutputKind::Png
-                                           ? EncodePng(picture.width, picture.height, picture.rgb)
-                                           : EncodePpm(picture);
-    if (!WriteFileBytes(out, bytes)) {
+    std::vector<uint8_t> bytes;
+    if (kind == OutputKind::Png)
+        EncodePng(picture.width, picture.height, picture.rgb, bytes);
+    else
+        bytes = EncodePpm(picture);
+    if (bytes.empty() || !WriteFileBytes(out, bytes)) {
         std::cerr << "moxtool texture: cannot write " << out << "\n";
         return kExitFailure;
     }
     return kExitOk;
+}
+
+} // namespace
+
+ToolCommand TextureCommand() {
+    return {"texture", "decode a PCX texture or drawing to PNG or PPM", kUsage, kDescription,
+            [](CLI::App& command) {
+                return DefinePositionals(
+                    command,
+                    {{"IN", "the PCX file"}, {"OUT", "the picture to write, .png or .ppm"}},
+                    RunTexture);
+            }};
 }

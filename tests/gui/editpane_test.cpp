@@ -18,6 +18,9 @@ constexpr int kFrameWidths[] = {0, 169, 169, 337, 169, 169, 265, 169};
 TEST_F(EditorTest, TabsSetThePaneWidthAndTheViewTakesTheRest) {
     frm_main& window = Window();
     const QWidget& client = *window.centralWidget();
+    // As the window first shows: the first tab's pane, the view beside it.
+    EXPECT_EQ(window.Pic_Edit->width(), kFrameWidths[1] + 32 + 16);
+    EXPECT_EQ(window.pic_render->x(), window.Pic_Edit->width());
     for (int tab = 1; tab <= 7; ++tab) {
         window.SelectTab(tab);
         EXPECT_EQ(View().CurrentTab, tab);

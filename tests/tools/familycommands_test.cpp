@@ -9,16 +9,12 @@
 namespace {
 
 int RunCommand(const std::string& name, const Arguments& args, std::string& out) {
-    for (const ToolCommand& command : ToolCommands()) {
-        if (name == command.name) {
-            testing::internal::CaptureStdout();
-            const int status = command.run(args);
-            out = testing::internal::GetCapturedStdout();
-            return status;
-        }
-    }
-    ADD_FAILURE() << "no command " << name;
-    return -1;
+    Arguments words{name};
+    words.insert(words.end(), args.begin(), args.end());
+    testing::internal::CaptureStdout();
+    const int status = RunMoxtool(words);
+    out = testing::internal::GetCapturedStdout();
+    return status;
 }
 
 // A main file with a hardpoint for slot 1 at (y -50, z 10, x -80), and one connected file.

@@ -1,27 +1,14 @@
 #include "assembledfamily.h"
 
+#include "displaystates.h"
 #include "elementkind.h"
-#include "samplecodes.h"
 
 #include <algorithm>
 
 namespace {
 
-// Display codes whose polygons depend on a state, and the state each compares its Flag with.
 bool Shows(const Piggyback& item, ShowState state) {
-    switch (item.COD) {
-    case kCodeTailWheel:
-    case kCodeLeftGear:
-    case kCodeRightGear:
-        return item.Flag == state.gear;
-    case kCodePilot:
-        return item.Flag == state.pilot;
-    case kCodeLeftWingDamage:
-    case kCodeRightWingDamage:
-        return item.Flag == state.wing;
-    default:
-        return true;
-    }
+    return !HiddenByState(item, DisplayStates{state.pilot, state.gear, state.wing});
 }
 
 const FileRecord* MainFile(const SampleFamily& family) {

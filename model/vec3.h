@@ -1,5 +1,5 @@
-// Points and directions of the sample generator, in model units of a file's own frame (or of the
-// assembled family), with the few operations the geometry needs.
+// Points and directions in model units of a file's own frame (or of the assembled family), with
+// the few operations the geometry of planes, the sample generator and the exports need.
 #pragma once
 
 #include <cmath>

@@ -1,0 +1,248 @@
+// moxtool check: each rule fires on a small record made to break it, and on nothing else.
+#include "collectinghost.h"
+#include "commands.h"
+#include "modelcheck.h"
+#include "moxbuilder.h"
+#include "moxjson.h"
+#include "moxreader.h"
+#include "pcxwriter.h"
+#include "tempdir.h"
+#include "testpictures.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <set>
+
+namespace {
+
+constexpr int16_t kOne = 16384;
+
+// A square of side 10 in the plane z = 0, its stored corners clockwise seen from +Z, in element 0
+// with the plane (0, 0, 1), D 0.
+MoxBuilder Square() {
+    MoxBuilder model;
+    model.nodes = {Node{0, 0, 0, 0}, Node{10, 0, 0, 0}, Node{10, 0, 10, 0}, Node{0, 0, 10, 0}};
+    model.planes = {NRMRecord{0, kOne, 0, 0, 0}};
+    model.root = {0, kNoElement};
+    model.streams = {StreamBytes()
+                         .MappedPoly(5, {{0, 0, 0}, {1, 0, 255}, {2, 255, 255}, {3, 255, 0}}, 0, 0)
+                         .End()
+                         .bytes};
+    return model;
+}
+
+void AddLines(MoxBuilder& model, int element, int lines) {
+    StreamBytes stream;
+    stream.bytes.assign(model.streams[element].begin(), model.streams[element].end() - 1);
+    for (int i = 0; i < lines; ++i)
+        stream.Line(0, 1, 0);
+    model.streams[element] = stream.End().bytes;
+}
+
+// Elements beyond the square that hold a line each and lie in its plane.
+void AddLineElements(MoxBuilder& model, int count) {
+    for (int i = 0; i < count; ++i) {
+        model.planes.push_back(model.planes[0]);
+        model.streams.push_back(StreamBytes().Line(0, 1, 0).End().bytes);
+    }
+}
+
+void Poly(MoxBuilder& model, const std::vector<uint8_t>& nodes) {
+    StreamBytes stream;
+    stream.bytes.assign(model.streams[0].begin(), model.streams[0].end() - 1);
+    model.streams[0] = stream.ColouredPoly(nodes, 0).End().bytes;
+}
+
+const std::set<std::string> kErrorRules = {"corner-node",  "element-reference", "node-part",
+                                           "corner-count", "tree-cycle",        "too-many-entries",
+                                           "stream-offset"};
+
+struct RuleRow {
+    const char* rule; // empty: the record is sound
+    std::function<void(MoxBuilder&)> spoil;
+    std::function<void(FileRecord&)> spoilRecord = nullptr;
+};
+
+std::set<std::string> RulesOf(const std::vector<Finding>& findings) {
+    std::set<std::string> rules;
+    for (const Finding& finding : findings)
+        rules.insert(finding.rule);
+    return rules;
+}
+
+TEST(ModelCheck, EachRuleFiresOnItsOwnRecordAlone) {
+    const std::vector<RuleRow> rows = {
+        {"", [](MoxBuilder&) {}},
+        {"corner-node",
+         [](MoxBuilder& m) {
+             m.streams[0] = StreamBytes()
+                                .Raw({m.streams[0].begin(), m.streams[0].end() - 1})
+                                .Line(0, 9, 0)
+                                .End()
+                                .bytes;
+         }},
+        {"element-reference",
+         [](MoxBuilder& m) {
+             m.children = {{7, kNoElement}};
+         }},
+        {"node-part", [](MoxBuilder& m) { m.nodes[0].B = 3; }},
+        {"corner-count", [](MoxBuilder&) {},
+         [](FileRecord& r) {
+             Piggyback line;
+             line.Type = 1;
+             line.CRN = 3;
+             line.NodeList = {0, 1, 2, 0};
+             r.Elements[0].Items.insert(r.Elements[0].Items.begin(), line);
+             ++r.Elements[0].Count;
+         }},
+        {"tree-cycle",
+         [](MoxBuilder& m) {
+             m.children = {{0, kNoElement}};
+         }},
+        {"too-many-entries", [](MoxBuilder& m) { AddLines(m, 0, 255); }},
+        // Too long to read back through a file: 90 more elements of 99 lines, each the child
+        // of the one before.
+        {"stream-offset", [](MoxBuilder&) {},
+         [](FileRecord& r) {
+             Piggyback line;
+             line.Type = 1;
+             line.CRN = 2;
+             line.NodeList = {0, 1, 0};
+             ElementList lines;
+             lines.Items.assign(100, line);
+             lines.Count = 99;
+             for (int e = 1; e <= 90; ++e) {
+                 r.PART[e - 1][0] = uint8_t(e);
+                 r.NRM.insert(r.NRM.begin() + e, r.NRM[0]);
+                 r.PART.insert(r.PART.begin() + e, ChildPair{kNoElement, kNoElement});
+                 r.Elements.insert(r.Elements.begin() + e, lines);
+                 r.Offsets.push_back(0);
+             }
+             r.NumElements = 91;
+         }},
+        {"unreached-element", [](MoxBuilder& m) { AddLineElements(m, 1); }},
+        {"element-shared",
+         [](MoxBuilder& m) {
+             AddLineElements(m, 2);
+             m.children = {{1, 2}, {kNoElement, kNoElement}, {1, kNoElement}};
+         }},
+        {"zero-normal", [](MoxBuilder& m) { m.planes[0] = NRMRecord{}; }},
+        {"normal-length", [](MoxBuilder& m) { m.planes[0].Z = 16000; }},
+        {"corner-off-plane", [](MoxBuilder& m) { m.planes[0].D = 5 * kOne; }},
+        {"facing-against-normal", [](MoxBuilder& m) { m.planes[0].Z = -kOne; }},
+        {"few-corners",
+         [](MoxBuilder& m) {
+             Poly(m, {0, 1});
+         }},
+        {"repeated-corner",
+         [](MoxBuilder& m) {
+             Poly(m, {0, 1, 1, 2});
+         }},
+        {"not-planar", [](MoxBuilder& m) { m.nodes[2].Z = 5; }},
+        {"not-convex",
+         [](MoxBuilder& m) {
+             m.nodes.push_back(Node{5, 0, 5, 0});
+             Poly(m, {0, 1, 4, 2, 3});
+         }},
+        {"piggyback-numbers", [](MoxBuilder& m) { AddLines(m, 0, 100); }},
+        {"unused-node",
+         [](MoxBuilder& m) {
+             m.nodes.push_back(Node{1, 2, 3, 0});
+         }},
+        {"same-hardpoint-code",
+         [](MoxBuilder& m) {
+             m.streams[0] = StreamBytes()
+                                .Raw({m.streams[0].begin(), m.streams[0].end() - 1})
+                                .Hardpoint(25, 0)
+                                .Hardpoint(25, 1)
+                                .Hardpoint(1, 2)
+                                .Hardpoint(1, 3)
+                                .End()
+                                .bytes;
+         }},
+    };
+    for (const RuleRow& row : rows) {
+        SCOPED_TRACE(row.rule);
+        MoxBuilder model = Square();
+        row.spoil(model);
+        FileRecord record;
+        std::vector<std::string> messages;
+        {
+            CollectingHost host;
+            record = ReadMoxBytes(model.Build(), "TEST.MOX", 0);
+            messages = host.messages;
+        }
+        if (row.spoilRecord)
+            row.spoilRecord(record);
+        const std::vector<Finding> findings = CheckRecord(record, messages);
+        const std::set<std::string> expected =
+            *row.rule ? std::set<std::string>{row.rule} : std::set<std::string>{};
+        EXPECT_EQ(RulesOf(findings), expected);
+        for (const Finding& finding : findings)
+            EXPECT_EQ(finding.severity == Severity::Error, kErrorRules.count(finding.rule) == 1);
+    }
+}
+
+// The rules that look at files beside the model, through the command and its JSON output.
+TEST(ModelCheck, TextureAndFamilyRulesAndTheExitStatus) {
+    struct FileRow {
+        const char* rule;
+        bool texture;
+        bool mainHardpoint;
+        bool connectedFile;
+    };
+    const std::vector<FileRow> rows = {
+        {"", true, true, true},
+        {"texture", false, false, false},
+        {"family-hardpoint", true, true, false},
+        {"family-hardpoint", true, false, true},
+    };
+    for (const FileRow& row : rows) {
+        SCOPED_TRACE(std::string(row.rule) + (row.mainHardpoint ? " main" : " connected"));
+        TempDir dir;
+        MoxBuilder main = Square();
+        main.SetTexture("PLANE.TPC");
+        if (row.mainHardpoint)
+            main.streams[0] = StreamBytes()
+                                  .Raw({main.streams[0].begin(), main.streams[0].end() - 1})
+                                  .Hardpoint(25, 0)
+                                  .End()
+                                  .bytes;
+        WriteTestFile(dir.file("PLANEF.MOX"), main.Build());
+        if (row.connectedFile) {
+            MoxBuilder connected = Square();
+            connected.SetTexture("PLANE.TPC");
+            WriteTestFile(dir.file("PLANEA.MOX"), connected.Build());
+        }
+        if (row.texture)
+            WriteTestFile(dir.file("PLANE.PCX"),
+                          EncodePcx8(4, 4, TestIndices(4, 4, 1), TestPalette()));
+
+        testing::internal::CaptureStdout();
+        const int status = RunMoxtool({"check", "--family", "--json", dir.file("PLANEF.MOX")});
+        const Json findings = Json::parse(testing::internal::GetCapturedStdout());
+        EXPECT_EQ(status, kExitOk);
+        std::set<std::string> rules;
+        for (const Json& finding : findings)
+            rules.insert(finding.at("rule").get<std::string>());
+        EXPECT_EQ(rules, *row.rule ? std::set<std::string>{row.rule} : std::set<std::string>{});
+    }
+
+    // Errors give status 1, an unreadable file 2.
+    TempDir dir;
+    MoxBuilder broken = Square();
+    broken.children = {{7, kNoElement}};
+    WriteTestFile(dir.file("BROKEN.MOX"), broken.Build());
+    testing::internal::CaptureStdout();
+    EXPECT_EQ(RunMoxtool({"check", dir.file("BROKEN.MOX")}), kExitFindings);
+    EXPECT_NE(testing::internal::GetCapturedStdout().find(
+                  ": error: element 0: PART(0) names element 7, beyond the 1 elements "
+                  "[element-reference]\n"),
+              std::string::npos);
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(RunMoxtool({"check", dir.file("NONE.MOX")}), kExitFailure);
+    testing::internal::GetCapturedStderr();
+}
+
+} // namespace
