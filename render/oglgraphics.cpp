@@ -82,14 +82,21 @@ void OGL_Graphics::ReSizeGLScene(int Width, int Height) {
     glMatrixMode(GL_PROJECTION);
     glLoadIdentity();
     if (View().ViewMode == kPerspectiveView) {
-        const GLdouble aspect = static_cast<GLdouble>(Width) / Height;
-        gluPerspective(kFieldOfView, aspect, kNearPlane, kFarPlane);
+        MultiplyViewVolume(Width, Height);
     } else {
         model& current = CurrentModel();
         SetOrtho(current.m_zoom, current.m_xpos, current.m_ypos);
     }
     glMatrixMode(GL_MODELVIEW);
     glLoadIdentity();
+}
+
+void OGL_Graphics::MultiplyViewVolume(int Width, int Height) {
+    if (View().ViewMode == kPerspectiveView)
+        gluPerspective(kFieldOfView, static_cast<GLdouble>(Width) / std::max(Height, 1), kNearPlane,
+                       kFarPlane);
+    else
+        MultiplyOrthoVolume(CurrentModel());
 }
 
 void OGL_Graphics::CleanUp() {

@@ -28,6 +28,10 @@ public:
     bool Initialise(QOpenGLWindow& view);
     // Viewport and projection for a view of Width by Height pixels; the context must be current.
     void ReSizeGLScene(int Width, int Height);
+    // Multiplies the camera's volume for a view of Width by Height pixels onto the current GL
+    // matrix: the perspective one in the perspective view, the orthographic one of the open
+    // model's zoom and pan otherwise.
+    void MultiplyViewVolume(int Width, int Height);
     // Lets go of the context; called once after the main loop has ended.
     void CleanUp();
     // One frame: clear, then the open model; messages met while painting are shown after it. The

@@ -40,6 +40,15 @@ constexpr std::array<ViewTurns, 6> kViewTurns{{
 
 } // namespace
 
+void MultiplyOrthoVolume(const model& current) {
+    // Left beyond right and bottom beyond top for a positive zoom. A zoom of 0 is refused by GL,
+    // and the matrix stays as it was until the next change.
+    const GLdouble aspect = OGL().AspectRatio();
+    const GLdouble halfHeight = current.m_zoom;
+    glOrtho(aspect * halfHeight - current.m_xpos, -aspect * halfHeight - current.m_xpos,
+            current.m_ypos + halfHeight, current.m_ypos - halfHeight, kNearDepth, kFarDepth);
+}
+
 void SetOrtho(float& zoom, float& x, float& y) {
     model& current = CurrentModel();
     current.m_zoom = zoom;
@@ -50,12 +59,7 @@ void SetOrtho(float& zoom, float& x, float& y) {
 
     glMatrixMode(GL_PROJECTION);
     glLoadIdentity();
-    // Left beyond right and bottom beyond top for a positive zoom. A zoom of 0 is refused by GL,
-    // and the projection stays the identity until the next change.
-    const GLdouble aspect = OGL().AspectRatio();
-    const GLdouble halfHeight = current.m_zoom;
-    glOrtho(aspect * halfHeight - current.m_xpos, -aspect * halfHeight - current.m_xpos,
-            current.m_ypos + halfHeight, current.m_ypos - halfHeight, kNearDepth, kFarDepth);
+    MultiplyOrthoVolume(current);
 
     glMatrixMode(GL_MODELVIEW);
     glLoadIdentity();

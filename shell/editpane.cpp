@@ -113,6 +113,7 @@ void frm_main::BuildPanes() {
     pic_render = QWidget::createWindowContainer(glView, central);
     pic_render->setObjectName("pic_render");
     framePacer = new FramePacer(*glView);
+    glView->installEventFilter(this);
 
     setCentralWidget(central);
 }
@@ -209,6 +210,8 @@ void frm_main::Form_Resize() {
 bool frm_main::eventFilter(QObject* watched, QEvent* event) {
     if (watched == centralWidget() && event->type() == QEvent::Resize)
         Form_Resize();
+    if (watched == glView)
+        RouteViewEvent(event);
     return QMainWindow::eventFilter(watched, event);
 }
 

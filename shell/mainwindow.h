@@ -86,6 +86,25 @@ public:
     // The toolbar button of `key`, or nullptr.
     QAction* Button(const QString& key) const;
 
+    // The input of the view pic_render. Buttons: 1 left, 2 right, as a mask while moving; shift
+    // masks: bit 0 Shift, bit 1 Ctrl. Positions are in pixels of the view, y growing downward.
+    void pic_render_MouseDown(int Button, int Shift, float X, float Y);
+    void pic_render_MouseUp(int Button, int Shift, float X, float Y);
+    void pic_render_MouseMove(int Button, int Shift, float X, float Y);
+    // A key by its virtual key code (37 to 40 the arrows, 65 to 90 the letters, 107 and 109 the
+    // keypad plus and minus, 112 to 118 F1 to F7). Paints no frame of its own: the frame loop
+    // sees the change.
+    void pic_render_KeyDown(int KeyCode, int Shift);
+    // A turn of the wheel over the view while this window is active: `Rotation` in units of 120
+    // a notch. The keys and position are not used.
+    void MouseWheel(int32_t MouseKeys, int32_t Rotation, int32_t Xpos, int32_t Ypos);
+    // Puts the view's pointer back to that of the current tool.
+    void RestoreToolPointer();
+
+    // The last mouse position of a drag; -1 when there is none.
+    float LastX = -1.0f;
+    float LastY = -1.0f;
+
     // The texture window, opened from the View menu.
     void mnu_v_texwindow_Click();
     // When the main window is minimised, the texture window follows.
@@ -156,6 +175,20 @@ private:
     void OpenModel(std::string fileName);
     void OpenProject(std::string fileName);
     QString AskForFile(bool saving, const char* title, const char* filter);
+    // Hands the mouse, wheel and key events of the GL surface to the pic_render handlers.
+    void RouteViewEvent(QEvent* event);
+    bool MainWindowActive() const;
+    // The rows of a drag, each with its first-move rule and the factors of the view.
+    void ZoomDrag(float x, float y);
+    void PanDrag(float x, float y);
+    void RotateDrag(float x, float y);
+    void BankDrag(float x, float y);
+    void LeftDrag(float x, float y);
+    void RightDrag(float x, float y);
+    void MoveToolDrag(float x, float y);
+    void MoveSelection(int32_t dist);
+    void ArrowKey(int KeyCode, int Shift);
+    void LetterKey(int KeyCode);
 
     QActionGroup* viewEntries_ = nullptr;
     QActionGroup* toolEntries_ = nullptr;

@@ -151,11 +151,19 @@ void frm_main::ChooseTool(int32_t tool) {
         View().mnu_m_move = tool == kMoveTool;
         Press(Entry(line.entry));
         Press(Button(line.button));
+        lbl_help->setText(line.help);
+    }
+    RestoreToolPointer();
+}
+
+void frm_main::RestoreToolPointer() {
+    for (const ToolLine& line : kTools) {
+        if (line.tool != View().ToolMode)
+            continue;
         if (line.pointerImage != nullptr)
             glView->setCursor(ToolbarCursor(line.pointerImage));
         else
             glView->setCursor(line.pointerShape);
-        lbl_help->setText(line.help);
     }
 }
 

@@ -1,7 +1,8 @@
 // The cost of a frame in the real editor window under a virtual X server with software GL: the
 // sample fighter and the largest family the format allows (seven files of 255 elements of
-// textured polygons, each file near 32 kB), and the processor time the paced frame loop takes
-// while such a model is open and nothing happens.
+// textured polygons, each file near 32 kB), the processor time the paced frame loop takes
+// while such a model is open and nothing happens, a pick at the middle of the view, and the
+// frames of a node drag in the Move tool.
 #include "currentmodel.h"
 #include "framepacer.h"
 #include "gltextureloader.h"
@@ -10,15 +11,18 @@
 #include "moxbuilder.h"
 #include "oglgraphics.h"
 #include "pcxwriter.h"
+#include "picking.h"
 #include "qtmodelhost.h"
 #include "recordinghost.h"
 #include "skylathe.h"
 #include "tempdir.h"
 #include "testpictures.h"
 #include "textureloader.h"
+#include "viewsettings.h"
 
 #include <QApplication>
 #include <QEventLoop>
+#include <QMouseEvent>
 #include <QTest>
 
 #include <GL/gl.h>
@@ -153,6 +157,11 @@ int PiggybacksOpen() {
     return piggybacks;
 }
 
+double MedianOf(std::vector<double>& values) {
+    std::nth_element(values.begin(), values.begin() + values.size() / 2, values.end());
+    return values[values.size() / 2];
+}
+
 void Frame(benchmark::State& state, const std::string& name) {
     Open(name);
     std::vector<double> milliseconds;
@@ -165,9 +174,7 @@ void Frame(benchmark::State& state, const std::string& name) {
             std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
                 .count());
     }
-    std::nth_element(milliseconds.begin(), milliseconds.begin() + milliseconds.size() / 2,
-                     milliseconds.end());
-    const double median = milliseconds[milliseconds.size() / 2];
+    const double median = MedianOf(milliseconds);
     state.counters["median_ms"] = median;
     state.counters["frames_per_second"] = 1000.0 / median;
     state.counters["piggybacks"] = PiggybacksOpen();
@@ -196,6 +203,65 @@ void IdleCpu(benchmark::State& state, const std::string& name) {
         state.counters["frames_per_second"] =
             static_cast<double>(view.FrameCount() - framesBefore) / wall;
     }
+}
+
+// One pick at the middle of the view in the Elements tab, from the mouse's release to the hits
+// taken, as the Pick tool makes it.
+void Pick(benchmark::State& state, const std::string& name) {
+    Open(name);
+    editor->window->SelectTab(kElementsTab);
+    const GLView& view = *editor->window->glView;
+    const auto x = static_cast<int16_t>(view.width() / 2);
+    const auto y = static_cast<int16_t>(view.height() / 2);
+    std::vector<double> milliseconds;
+    for (auto _ : state) {
+        const auto start = std::chrono::steady_clock::now();
+        ProcessSelection(x, y);
+        milliseconds.push_back(
+            std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
+                .count());
+    }
+    state.counters["median_ms"] = MedianOf(milliseconds);
+    state.counters["hit_element"] = CurrentModel().m_currelem;
+}
+
+// A node dragged along Z in the Left view, one mouse event at a time: the event's handling and
+// the frame that shows it, painted at once. The drag keeps up with the mouse while this stays
+// below the time between two of its events.
+void Drag(benchmark::State& state, const std::string& name) {
+    Open(name);
+    frm_main& window = *editor->window;
+    GLView& view = *window.glView;
+    window.SelectTab(kNodesTab);
+    window.mnu_m_move_Click();
+    window.mnu_m_a_z_Click();
+    window.mnu_v_left_Click();
+    CurrentModel().m_currnode = 0;
+    const QPointF start(view.width() / 4.0, view.height() / 2.0);
+    int step = 0;
+    const auto move = [&](QEvent::Type type, Qt::MouseButtons buttons) {
+        const QPointF at = start + QPointF(0, (step++ % 2 == 0) ? -1 : 1);
+        QMouseEvent event(type, at, view.mapToGlobal(at), Qt::LeftButton, buttons, {});
+        QCoreApplication::sendEvent(&view, &event);
+    };
+    move(QEvent::MouseButtonPress, Qt::LeftButton);
+    std::vector<double> milliseconds;
+    for (auto _ : state) {
+        const auto begin = std::chrono::steady_clock::now();
+        move(QEvent::MouseMove, Qt::LeftButton);
+        OGL().MakeCurrent();
+        OGL().RenderFrame();
+        glFinish();
+        milliseconds.push_back(
+            std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - begin)
+                .count());
+    }
+    move(QEvent::MouseButtonRelease, Qt::NoButton);
+    const double median = MedianOf(milliseconds);
+    state.counters["median_ms"] = median;
+    state.counters["events_per_second"] = 1000.0 / median;
+    window.mnu_v_persp_Click();
+    window.mnu_m_pick_Click();
 }
 
 } // namespace
@@ -238,6 +304,10 @@ int main(int argc, char** argv) {
     benchmark::RegisterBenchmark("BM_IdleCpuLargestFamily", IdleCpu, largest)
         ->Iterations(1)
         ->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("BM_PickSample", Pick, sample)->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("BM_PickLargestFamily", Pick, largest)
+        ->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("BM_DragSample", Drag, sample)->Unit(benchmark::kMillisecond);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
 

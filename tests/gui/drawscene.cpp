@@ -44,9 +44,10 @@ uint8_t TestFile::AddNode(int16_t x, int16_t y, int16_t z, int16_t body) {
     return static_cast<uint8_t>(record.NumNodes++);
 }
 
-std::vector<uint8_t> TestFile::AddSquare(int16_t x, int16_t z, int16_t half, bool facingAway) {
-    std::vector<uint8_t> nodes{AddNode(x - half, 0, z - half), AddNode(x - half, 0, z + half),
-                               AddNode(x + half, 0, z + half), AddNode(x + half, 0, z - half)};
+std::vector<uint8_t> TestFile::AddSquare(int16_t x, int16_t z, int16_t half, bool facingAway,
+                                         int16_t y) {
+    std::vector<uint8_t> nodes{AddNode(x - half, y, z - half), AddNode(x - half, y, z + half),
+                               AddNode(x + half, y, z + half), AddNode(x + half, y, z - half)};
     if (facingAway)
         std::reverse(nodes.begin(), nodes.end());
     return nodes;

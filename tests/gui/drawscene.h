@@ -19,9 +19,11 @@ public:
     TestFile();
 
     uint8_t AddNode(int16_t x, int16_t y, int16_t z, int16_t body = 0);
-    // Four nodes of a square around (x, z), stored clockwise as the camera sees them, so that its
-    // front faces the camera; `facingAway` stores them the other way round.
-    std::vector<uint8_t> AddSquare(int16_t x, int16_t z, int16_t half, bool facingAway = false);
+    // Four nodes of a square around (x, z) in the plane at depth `y`, stored clockwise as the
+    // camera sees them, so that its front faces the camera; `facingAway` stores them the other
+    // way round.
+    std::vector<uint8_t> AddSquare(int16_t x, int16_t z, int16_t half, bool facingAway = false,
+                                   int16_t y = 0);
     // A new element with these piggybacks; their Numbers are set. Returns the element index.
     int AddElement(std::vector<Piggyback> items);
 

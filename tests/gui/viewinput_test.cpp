@@ -1,0 +1,239 @@
+// Picking and the view's input, with real mouse, wheel and key events sent to the GL surface of
+// the editor window: what a click selects in each tab, the axis press and the drag of the Move
+// tool, the wheel and the keys.
+#include "currentmodel.h"
+#include "drawscene.h"
+#include "editorfixture.h"
+#include "glview.h"
+#include "oglgraphics.h"
+#include "viewsettings.h"
+
+#include <QAction>
+#include <QTest>
+#include <QWheelEvent>
+
+#include <functional>
+#include <optional>
+
+namespace {
+
+constexpr uint8_t kTextured = 5;
+constexpr uint8_t kCodePilot = 146;
+constexpr uint8_t kPilotDead = 2;
+constexpr int kUntouched = 77;
+constexpr int kNotch = 120;
+
+struct Point3 {
+    double x, y, z;
+};
+
+class ViewInputTest : public EditorTest {
+protected:
+    void SetUp() override {
+        EditorTest::SetUp();
+        host.windowSide = nullptr;
+        SetHost(&host);
+    }
+    void TearDown() override {
+        SetHost(&windowHost);
+        EditorTest::TearDown();
+    }
+
+    // Where a model point lands in the last frame; a corner of the view for the sky.
+    // Where a model point lands in a frame painted now; a corner of the view for the sky. A tab
+    // switch lays the panes out again, and the GL surface takes its new size a little later.
+    QPoint PixelOf(const std::optional<Point3>& at) {
+        EXPECT_TRUE(
+            QTest::qWaitFor([this] { return Surface().size() == Window().pic_render->size(); }));
+        EXPECT_TRUE(OGL().MakeCurrent());
+        OGL().RenderFrame();
+        return at ? OnScreen(at->x, at->y, at->z) : QPoint(3, 3);
+    }
+    int Spin(const char* name) { return host.spins.count(name) ? host.spins[name] : 0; }
+};
+
+// Two nodes on the line of sight at the centre, the farther one first; overlapping squares at two
+// depths; two equal squares in one element; a state-hidden square beside a visible one; a back
+// face.
+FileRecord PickScene() {
+    TestFile file;
+    file.AddNode(0, 40, 0);
+    file.AddNode(0, -40, 0);
+    file.AddElement({Polygon(kTextured, file.AddSquare(-30, 0, 10))});
+    file.AddElement({Polygon(kTextured, file.AddSquare(-25, 0, 10, false, -20))});
+    file.AddElement({Polygon(kTextured, file.AddSquare(30, 0, 10)),
+                     Polygon(kTextured, file.AddSquare(30, 0, 10))});
+    file.AddElement({Polygon(kTextured, file.AddSquare(0, 30, 10), kCodePilot, kPilotDead),
+                     Polygon(kTextured, file.AddSquare(30, 30, 10))});
+    file.AddElement({Polygon(kTextured, file.AddSquare(0, -30, 10, true))});
+    return file.record;
+}
+
+} // namespace
+
+TEST_F(ViewInputTest, ClickSelectsByTabAndRanksByDepth) {
+    struct Row {
+        const char* what;
+        int tab;
+        std::optional<Point3> at;
+        int elem;  // m_currelem afterwards
+        int node;  // m_currnode afterwards
+        int spins; // upd_3_elem * 100 + upd_3_pb, or upd_4_node; kUntouched after a miss
+    };
+    const Row rows[] = {
+        {"nearer of two overlapping polygons", 3, Point3{-25, -20, 0}, 100, 0, 100},
+        {"equal depths keep the first painted", 3, Point3{30, 0, 0}, 200, 0, 200},
+        {"second piggyback of an element", 3, Point3{30, 0, 30}, 301, 0, 301},
+        {"polygon hidden by the pilot state", 3, Point3{0, 0, 30}, -1, -1, kUntouched},
+        {"back face", 3, Point3{0, 0, -30}, -1, -1, kUntouched},
+        {"sky in the Elements tab", 3, std::nullopt, -1, -1, kUntouched},
+        {"lower of two nodes, the farther", 4, Point3{0, 0, 0}, 0, 0, 0},
+        {"sky in the Nodes tab", 4, std::nullopt, -1, -1, kUntouched},
+    };
+    InstallFamily({PickScene()});
+    View().mnu_v_nodes = true;
+    Window().mnu_m_pick_Click();
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.what);
+        Window().SelectTab(row.tab);
+        model& current = CurrentModel();
+        current.m_currelem = 0;
+        current.m_currnode = 0;
+        for (const char* spin : {"upd_3_elem", "upd_3_pb", "upd_4_node"})
+            host.spins[spin] = kUntouched;
+        const QPoint pixel = PixelOf(row.at);
+        QTest::mouseClick(&Surface(), Qt::LeftButton, {}, pixel);
+        EXPECT_EQ(current.m_currelem, row.elem);
+        EXPECT_EQ(current.m_currnode, row.node);
+        if (row.spins == kUntouched) {
+            EXPECT_EQ(Spin("upd_3_elem") * 100 + Spin("upd_3_pb"), kUntouched * 101);
+            EXPECT_EQ(Spin("upd_4_node"), kUntouched);
+        } else if (row.tab == kNodesTab) {
+            EXPECT_EQ(Spin("upd_4_node"), row.spins);
+        } else {
+            EXPECT_EQ(Spin("upd_3_elem") * 100 + Spin("upd_3_pb"), row.spins);
+            EXPECT_EQ(host.spinMaxima["upd_3_pb"], 255);
+        }
+    }
+}
+
+TEST_F(ViewInputTest, MoveToolPressChoosesAxisAndDragMovesNode) {
+    TestFile file;
+    file.AddNode(0, 0, 0);
+    InstallFamily({file.record});
+    Window().SelectTab(kNodesTab);
+    Window().mnu_m_move_Click();
+    Window().mnu_m_a_y_Click();
+    CurrentModel().m_currnode = 0;
+
+    // A press on an axis line chooses it, with its menu entry and button; beside them nothing.
+    const struct {
+        std::optional<Point3> at;
+        int32_t axis;
+        const char* button;
+    } presses[] = {{Point3{7, 0, 0}, kAxisX, "X"},
+                   {Point3{0, 0, 7}, kAxisZ, "Z"},
+                   {std::nullopt, kAxisZ, "Z"}};
+    for (const auto& press : presses) {
+        QTest::mouseClick(&Surface(), Qt::LeftButton, {}, PixelOf(press.at));
+        EXPECT_EQ(View().ModifyAxis, press.axis);
+        EXPECT_TRUE(Window().Button(press.button)->isChecked()) << press.button;
+    }
+
+    // In the Left view, after a first move that only takes the position, whatever its jump.
+    const struct {
+        int32_t axis;
+        QPoint motion;
+        int x, y, z; // the node spins afterwards
+    } drags[] = {{kAxisZ, {0, -5}, 0, 0, 5},
+                 {kAxisX, {5, 0}, -10, 0, 0},
+                 {kAxisY, {5, -5}, 0, 0, 0},
+                 {kAxisY, {-5, 5}, 0, 0, 0}};
+    Window().mnu_v_left_Click();
+    const QPoint start(20, 20);
+    const QPoint jump(200, 150);
+    for (const auto& drag : drags) {
+        host.spins.clear();
+        View().ModifyAxis = drag.axis;
+        QTest::mousePress(&Surface(), Qt::LeftButton, {}, start);
+        QTest::mouseMove(&Surface(), jump);
+        QTest::mouseMove(&Surface(), jump + drag.motion);
+        QTest::mouseRelease(&Surface(), Qt::LeftButton, {}, jump + drag.motion);
+        QTest::mouseMove(&Surface(), start);
+        EXPECT_EQ(Spin("upd_4_x"), drag.x);
+        EXPECT_EQ(Spin("upd_4_y"), drag.y);
+        EXPECT_EQ(Spin("upd_4_z"), drag.z);
+    }
+}
+
+TEST_F(ViewInputTest, WheelAndKeysChangeCameraToolsAndStates) {
+    TestFile file;
+    file.AddNode(0, 0, 0);
+    InstallFamily({file.record});
+    Window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
+    model& current = CurrentModel();
+    const auto wheel = [&](int delta) {
+        QWheelEvent event(QPointF(10, 10), Surface().mapToGlobal(QPointF(10, 10)), {}, {0, delta},
+                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&Surface(), &event);
+    };
+    const auto key = [&](Qt::Key code, Qt::KeyboardModifiers modifiers = {}) {
+        return [this, code, modifiers] { QTest::keyClick(&Surface(), code, modifiers); };
+    };
+    const auto perspective = [this] { Window().mnu_v_persp_Click(); };
+    const auto left = [this] { Window().mnu_v_left_Click(); };
+
+    const struct {
+        const char* what;
+        std::function<void()> view;
+        std::function<void()> input;
+        std::function<float()> field;
+        float change;
+    } rows[] = {
+        {"wheel, perspective", perspective, [&] { wheel(kNotch); }, [&] { return current.m_zoom; },
+         kNotch},
+        {"wheel, orthographic", left, [&] { wheel(-kNotch); }, [&] { return current.m_zoom; },
+         -kNotch / 4},
+        {"keypad +, perspective", perspective, key(Qt::Key_Plus, Qt::KeypadModifier),
+         [&] { return current.m_zoom; }, 1},
+        {"keypad +, orthographic", left, key(Qt::Key_Plus, Qt::KeypadModifier),
+         [&] { return current.m_zoom; }, -1},
+        {"Up, orthographic", left, key(Qt::Key_Up), [&] { return current.m_yrot; }, 0},
+        {"Up", perspective, key(Qt::Key_Up), [&] { return current.m_yrot; }, -2},
+        {"Ctrl Up", perspective, key(Qt::Key_Up, Qt::ControlModifier),
+         [&] { return current.m_ypos; }, 2},
+        {"Shift Ctrl Left", perspective, key(Qt::Key_Left, Qt::ShiftModifier | Qt::ControlModifier),
+         [&] { return current.m_bank; }, -2},
+        {"Ctrl Right", perspective, key(Qt::Key_Right, Qt::ControlModifier),
+         [&] { return current.m_xpos; }, 2},
+        {"F4 from the first tab", perspective, key(Qt::Key_F4),
+         [] { return static_cast<float>(View().CurrentTab); }, kNodesTab - kModelInfoTab},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        row.view();
+        const float before = row.field();
+        row.input();
+        EXPECT_FLOAT_EQ(row.field() - before, row.change);
+    }
+
+    const struct {
+        Qt::Key key;
+        int32_t model::*field;
+        int32_t value;
+        const char* button;
+        const char* image;
+    } states[] = {{Qt::Key_C, &model::m_pilot, 1, "Pilot", "PilotDead"},
+                  {Qt::Key_C, &model::m_pilot, 2, "Pilot", "PilotBailed"},
+                  {Qt::Key_C, &model::m_pilot, 0, "Pilot", "PilotAlive"},
+                  {Qt::Key_G, &model::m_lg, 0, "LG", "LGUp"},
+                  {Qt::Key_G, &model::m_lg, 1, "LG", "LGDown"},
+                  {Qt::Key_D, &model::m_wing, 1, "Wing", "WingDam"},
+                  {Qt::Key_D, &model::m_wing, 0, "Wing", "WingOK"}};
+    for (const auto& state : states) {
+        QTest::keyClick(&Surface(), state.key);
+        EXPECT_EQ(current.*state.field, state.value) << state.image;
+        EXPECT_EQ(Window().Button(state.button)->property("image").toString(), state.image);
+    }
+}
