@@ -8,7 +8,7 @@
 #include "panelaccess.h"
 #include "piggybacknumber.h"
 #include "spinwithbuddy.h"
-#include "texturemaphook.h"
+#include "texturemap.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -13,7 +13,7 @@
 #include "modelhost.h"
 #include "piggybacknumber.h"
 #include "spinwithbuddy.h"
-#include "texturemaphook.h"
+#include "texturemap.h"
 #include "viewsettings.h"
 #include "wholenumber.h"
 

@@ -19,6 +19,8 @@ PanelRows::PanelRows(QWidget& frame) : frame_(frame), column_(new QVBoxLayout(&f
 }
 
 void PanelRows::AddCaption(const char* caption, bool bold) {
+    if (caption == nullptr || *caption == '\0')
+        return;
     auto* label = new QLabel(caption, &frame_);
     if (bold) {
         QFont font = label->font();
@@ -79,6 +81,34 @@ QPushButton& PanelRows::AddButton(const char* caption, const char* name) {
     button->setObjectName(name);
     column_->addWidget(button);
     return *button;
+}
+
+QLabel& PanelRows::AddHeading(const char* caption) {
+    auto* label = new QLabel(caption, &frame_);
+    QFont font = label->font();
+    font.setBold(true);
+    label->setFont(font);
+    label->setAlignment(Qt::AlignHCenter);
+    column_->addWidget(label);
+    return *label;
+}
+
+QLabel& PanelRows::AddNote(const char* caption) {
+    auto* label = new QLabel(caption, &frame_);
+    column_->addWidget(label);
+    return *label;
+}
+
+QHBoxLayout& PanelRows::AddRow(const char* caption) {
+    AddCaption(caption);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(kSpacing);
+    column_->addLayout(row);
+    return *row;
+}
+
+void PanelRows::StretchLast() {
+    column_->setStretch(column_->count() - 1, 1);
 }
 
 void PanelRows::Finish() {

@@ -10,6 +10,8 @@
 
 class QCheckBox;
 class QComboBox;
+class QHBoxLayout;
+class QLabel;
 class QLineEdit;
 class QPushButton;
 class QVBoxLayout;
@@ -32,10 +34,19 @@ public:
                        bool boldCaption = false);
     QCheckBox& AddCheck(const char* caption, const char* name);
     QPushButton& AddButton(const char* caption, const char* name);
+    // A bold, centred heading over the rows that follow.
+    QLabel& AddHeading(const char* caption);
+    // A line of plain text.
+    QLabel& AddNote(const char* caption);
+    // A row that the panel fills with controls side by side, under a caption (none when empty).
+    QHBoxLayout& AddRow(const char* caption);
+    // Stretches the last row to the bottom of the frame, rather than keeping the rows at the top.
+    void StretchLast();
     // Keeps the rows at the top of the frame.
     void Finish();
 
 private:
+    // Adds nothing for an empty caption.
     void AddCaption(const char* caption, bool bold = false);
 
     QWidget& frame_;

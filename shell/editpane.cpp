@@ -2,10 +2,12 @@
 // the help label; the tab switch; and the layout of pane and view for every window size.
 #include "mainwindow.h"
 
+#include "centremoverpanel.h"
 #include "currentmodel.h"
 #include "editpanels.h"
 #include "framepacer.h"
 #include "glview.h"
+#include "texturewindow.h"
 
 #include <QAction>
 #include <QEvent>
@@ -118,7 +120,9 @@ void frm_main::BuildPanelFrames() {
         fra_edit[tab] = frame;
     }
     panels = std::make_unique<EditPanels>(*fra_edit[kModelInfoTab], *fra_edit[kPartsTab],
-                                          *fra_edit[kElementsTab], *fra_edit[kNodesTab]);
+                                          *fra_edit[kElementsTab], *fra_edit[kNodesTab],
+                                          *fra_edit[kCentreMoverTab], *fra_edit[kNotepadTab],
+                                          *fra_edit[kThreeViewDataTab]);
 }
 
 void frm_main::SelectTab(int tab) {
@@ -203,8 +207,11 @@ void frm_main::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
 }
 
-// The texture window comes with its own handlers; until then there is nothing to follow.
-void frm_main::frm_texture_Minimise() {}
+void frm_main::frm_texture_Minimise() {
+    if (frm_texture* window = TextureWindow())
+        window->FollowOwnerMinimised();
+}
 
-// The Centre Mover panel fills this with the reset of its running totals.
-void frm_main::ResetCentreMover() {}
+void frm_main::ResetCentreMover() {
+    panels->centreMover().TabShown();
+}

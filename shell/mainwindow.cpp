@@ -10,6 +10,7 @@
 #include "optionsdialog.h"
 #include "programstate.h"
 #include "repeatedmessages.h"
+#include "texturewindow.h"
 #include "toolbarimages.h"
 
 #include <QAction>
@@ -75,6 +76,7 @@ frm_main::frm_main() {
     BuildMenus();
     BuildToolbar();
     BuildPanes();
+    BuildTextureWindow();
     resize(kClientWidth,
            kClientHeight + menuBar()->sizeHint().height() + tlb_main->sizeHint().height());
     if (const QScreen* shown = screen())
@@ -198,8 +200,30 @@ void frm_main::mnu_f_options_Click() {
     options_->activateWindow();
 }
 
-// The texture window fills this with its opening.
-void frm_main::mnu_v_texwindow_Click() {}
+// The texture window belongs to this window: it stays above it while shown and has no task bar
+// entry of its own. The menu entry's tick says whether it is open.
+void frm_main::BuildTextureWindow() {
+    auto* window = new frm_texture(this);
+    QAction* entry = Entry("mnu_v_texwindow");
+    entry->setCheckable(true);
+    connect(window, &frm_texture::Unloaded, entry, [entry] { entry->setChecked(false); });
+}
+
+// The click has already turned the entry's tick over; whether the window is shown tells what it
+// was.
+void frm_main::mnu_v_texwindow_Click() {
+    frm_texture* window = TextureWindow();
+    const bool open = window->isVisible();
+    Entry("mnu_v_texwindow")->setChecked(open);
+    if (CurrentModel().M_Type == kNothingLoaded)
+        return;
+    if (open) {
+        window->close();
+        return;
+    }
+    window->Open(CurrentModel().m_currmox);
+    Entry("mnu_v_texwindow")->setChecked(true);
+}
 
 void frm_main::mnu_h_about_Click() {
     QString versions = QStringLiteral("Qt %1").arg(qVersion());

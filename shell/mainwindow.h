@@ -160,6 +160,7 @@ private:
     void BuildMenus();
     void BuildToolbar();
     void BuildPanes();
+    void BuildTextureWindow();
     void BuildPanelFrames();
     QAction* AddViewTick(QMenu* menu, const char* name, const char* caption,
                          bool ViewSettings::*tick);

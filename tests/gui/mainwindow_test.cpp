@@ -57,7 +57,7 @@ const std::vector<MenuRow> kMenuRows = {
     {"mnu_p_recent(2)", "", "", false, false, false},
     {"mnu_p_recent(3)", "", "", false, false, false},
     {"mnu_view", "&View"},
-    {"mnu_v_texwindow", "Texture &Window..."},
+    {"mnu_v_texwindow", "Texture &Window...", "", true},
     {"mnu_v_3", ""},
     {"mnu_v_view", "&Views"},
     {"mnu_v_left", "&Left View", "Ctrl+L", true},

@@ -45,14 +45,14 @@ void PanelTest::SetUp() {
     ResetViewSettings();
     pane_ = std::make_unique<QWidget>();
     auto* column = new QVBoxLayout(pane_.get());
-    QWidget* frames[4];
-    const char* names[] = {"fra_edit(1)", "fra_edit(2)", "fra_edit(3)", "fra_edit(4)"};
-    for (int k = 0; k < 4; ++k) {
+    QWidget* frames[7];
+    for (int k = 0; k < 7; ++k) {
         frames[k] = new QWidget(pane_.get());
-        frames[k]->setObjectName(names[k]);
+        frames[k]->setObjectName(QStringLiteral("fra_edit(%1)").arg(k + 1));
         column->addWidget(frames[k]);
     }
-    panels = std::make_unique<EditPanels>(*frames[0], *frames[1], *frames[2], *frames[3]);
+    panels = std::make_unique<EditPanels>(*frames[0], *frames[1], *frames[2], *frames[3],
+                                          *frames[4], *frames[5], *frames[6]);
     paneHost_ = std::make_unique<PaneHost>(*pane_, *panels);
     host.windowSide = paneHost_.get();
     pane_->show();

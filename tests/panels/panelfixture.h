@@ -1,4 +1,4 @@
-// A stand-in for the main window's left pane: the frames of tabs 1 to 4 with their panels, and
+// A stand-in for the main window's left pane: the frames of tabs 1 to 7 with their panels, and
 // a host that sends the model's fills, spin settings and picks to them. Messages and questions go
 // to a RecordingHost.
 #pragma once
