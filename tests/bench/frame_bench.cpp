@@ -109,11 +109,9 @@ std::string WriteLargestFamily(const TempDir& folder) {
               TestIndices(kTextureSide, kTextureSide, 1), TestPalette());
     const std::string main = folder.file("PBENCHF.MOX");
     WriteTestFile(main, TubeFile(true).Build());
-    const std::vector<uint8_t> connected = TubeFile(false).Build();
     for (char letter : kLetters)
-        WriteTestFile(folder.file(std::string("PBENCH") + letter + ".MOX"), connected);
-    std::cout << "largest family: 7 files, main " << TubeFile(true).Build().size()
-              << " bytes, connected " << connected.size() << " bytes each\n";
+        WriteTestFile(folder.file(std::string("PBENCH") + letter + ".MOX"),
+                      TubeFile(false).Build());
     return main;
 }
 
@@ -148,15 +146,6 @@ void Open(const std::string& name) {
     CurrentModel().Load(filename);
 }
 
-int PiggybacksOpen() {
-    int piggybacks = 0;
-    for (const FileRecord& file : CurrentModel().Files)
-        if (file.Loaded)
-            for (int element = 0; element < file.NumElements; ++element)
-                piggybacks += file.Elements[element].Count;
-    return piggybacks;
-}
-
 double MedianOf(std::vector<double>& values) {
     std::nth_element(values.begin(), values.begin() + values.size() / 2, values.end());
     return values[values.size() / 2];
@@ -177,7 +166,6 @@ void Frame(benchmark::State& state, const std::string& name) {
     const double median = MedianOf(milliseconds);
     state.counters["median_ms"] = median;
     state.counters["frames_per_second"] = 1000.0 / median;
-    state.counters["piggybacks"] = PiggybacksOpen();
 }
 
 // The program's own loop with the model open and nothing changing: events only, the pacer
@@ -287,8 +275,6 @@ int main(int argc, char** argv) {
         std::cerr << "bench_frame: the view paints no frames\n";
         return 1;
     }
-    std::cout << "view " << running.window->glView->width() << " x "
-              << running.window->glView->height() << " pixels\n";
 
     TempDir folder;
     const std::string sample = std::string(SAMPLE_DIR) + "/PDEMOF.MOX";

@@ -3,8 +3,8 @@
 #include "configtext.h"
 #include "moxjson.h"
 #include "moxreader.h"
+#include "pcxreader.h"
 #include "pcxwriter.h"
-#include "projectseeds.h"
 #include "randommox.h"
 #include "testpictures.h"
 
@@ -22,36 +22,20 @@ bool WriteSeed(const fs::path& folder, const std::string& name, const std::vecto
     return WriteFileBytes((folder / name).string(), bytes);
 }
 
-// 256-colour and 24-bit files: odd widths, padded lines, runs that cross line ends, and files
-// the reader refuses (other depths and plane counts, no palette marker).
+// 256-colour and 24-bit files with odd widths, padded lines and runs across line ends, and one
+// without its palette marker; the fuzzer finds the other depths and plane counts from these.
 bool WritePcxSeeds(const fs::path& folder) {
     fs::create_directories(folder);
     PcxWriteOptions padded;
     padded.bytesPerLine = 12;
     padded.padding = 0xC7;
-    PcxWriteOptions across;
-    across.runs = PcxRuns::AcrossLines;
+    padded.runs = PcxRuns::AcrossLines;
     const PcxPalette palette = TestPalette();
-
-    std::vector<uint8_t> fourPlanes = EncodePcx24(6, 4, TestRgb(6, 4, 4));
-    fourPlanes[65] = 4;
-    std::vector<uint8_t> fourBits = EncodePcx8(6, 4, TestIndices(6, 4, 5), palette);
-    fourBits[3] = 4;
-    std::vector<uint8_t> unmarked = EncodePcx8(6, 4, TestIndices(6, 4, 6), palette);
-    unmarked[unmarked.size() - 769] = 0;
-
-    return WriteSeed(folder, "palette-odd-width.pcx",
-                     EncodePcx8(7, 5, TestIndices(7, 5, 1), palette)) &&
-           WriteSeed(folder, "palette-padded.pcx",
+    std::vector<uint8_t> unmarked = EncodePcx8(7, 5, TestIndices(7, 5, 1), palette);
+    unmarked[unmarked.size() - kPcxPaletteBlockBytes] = 0;
+    return WriteSeed(folder, "palette.pcx",
                      EncodePcx8(9, 6, TestIndices(9, 6, 2), palette, padded)) &&
-           WriteSeed(folder, "palette-runs-across-lines.pcx",
-                     EncodePcx8(8, 8, TestIndices(8, 8, 3), palette, across)) &&
-           WriteSeed(folder, "rgb-odd-width.pcx", EncodePcx24(11, 7, TestRgb(11, 7, 1))) &&
-           WriteSeed(folder, "rgb-padded.pcx", EncodePcx24(9, 4, TestRgb(9, 4, 2), padded)) &&
-           WriteSeed(folder, "rgb-runs-across-lines.pcx",
-                     EncodePcx24(13, 6, TestRgb(13, 6, 3), across)) &&
-           WriteSeed(folder, "four-planes.pcx", fourPlanes) &&
-           WriteSeed(folder, "four-bits.pcx", fourBits) &&
+           WriteSeed(folder, "rgb.pcx", EncodePcx24(11, 7, TestRgb(11, 7, 1), padded)) &&
            WriteSeed(folder, "no-palette-marker.pcx", unmarked);
 }
 
@@ -76,17 +60,29 @@ bool WriteMoxSeeds(const fs::path& root) {
     return written;
 }
 
-// A configuration as the program writes it, with every option away from its default.
-bool WriteConfigSeed(const fs::path& folder) {
-    fs::create_directories(folder);
+// A configuration as the program writes it, with options away from their defaults, and project
+// files as the program writes them and as people edit them.
+bool WriteTextSeeds(const fs::path& root) {
     ProgramState state;
     state.RecentModels[0] = "/models/with blanks/PLANEF.MOX";
-    state.RecentProjects[1] = "/models/TRACE.3vw";
-    state.LineWeight = 3;
     state.LineColour = {0, 7, 255};
     state.IncrementalSave = false;
-    const std::string text = ConfigText(state);
-    return WriteSeed(folder, "written", {text.begin(), text.end()});
+    const std::vector<std::pair<std::string, std::string>> seeds = {
+        {"fuzz_config/written", ConfigText(state)},
+        {"fuzz_project/family",
+         "Type=MOX\r\nF=SHIPF.MOX\r\nA=SHIPA.MOX\r\nB=NONE\r\n\r\nSpan=1200\r\nLength=-32768\r\n"
+         "TopLeftZ=7\r\nTop=top.pcx\r\nFront=front=1.pcx\r\nNotes=chord 2.1 m\r\n\r\nlast\r\n"},
+        {"fuzz_project/tolerant",
+         "notakey=1\nbottom=under.pcx\nspan= -12 \n\nf=TMOD1H.MOX\rb=TMOD1L.MOX"
+         "\r\ntype=MOX TMOD\r\ntopleftz=+5\r\nNOTES=\xe9t\n\nb"},
+        {"fuzz_project/no-equals", "Type=MOX\r\nF=SHIPF.MOX\r\njust words\r\nSpan=3\r\n"},
+    };
+    bool written = true;
+    for (const auto& [name, text] : seeds) {
+        fs::create_directories((root / name).parent_path());
+        written = WriteSeed(root, name, {text.begin(), text.end()}) && written;
+    }
+    return written;
 }
 
 } // namespace
@@ -98,11 +94,9 @@ int main(int argc, char** argv) {
     }
     const fs::path root = argv[1];
     fs::create_directories(root);
-    if (!WriteMoxSeeds(root) || !WritePcxSeeds(root / "fuzz_pcx") ||
-        !WriteConfigSeed(root / "fuzz_config")) {
+    if (!WriteMoxSeeds(root) || !WritePcxSeeds(root / "fuzz_pcx") || !WriteTextSeeds(root)) {
         std::cerr << "make_fuzz_seeds: cannot write the seeds under " << root << "\n";
         return 1;
     }
-    WriteProjectSeeds(argv[1]);
     return 0;
 }

@@ -9,7 +9,6 @@
 #include "viewsettings.h"
 
 #include <QMatrix4x4>
-#include <QOpenGLContext>
 #include <QTest>
 
 #include <GL/gl.h>
@@ -34,23 +33,7 @@ void ExpectSkyEverywhere(const QImage& frame, const char* what) {
             << what << " at " << at.x() << "," << at.y();
 }
 
-std::array<GLfloat, 4> ClearColour() {
-    std::array<GLfloat, 4> colour{};
-    glGetFloatv(GL_COLOR_CLEAR_VALUE, colour.data());
-    return colour;
-}
-
 } // namespace
-
-TEST_F(EditorTest, TheContextIsADoubleBufferedCompatibilityContext) {
-    const QSurfaceFormat format = Surface().context()->format();
-    EXPECT_EQ(format.profile(), QSurfaceFormat::CompatibilityProfile);
-    EXPECT_EQ(format.swapBehavior(), QSurfaceFormat::DoubleBuffer);
-    EXPECT_EQ(format.redBufferSize(), 8);
-    EXPECT_EQ(format.greenBufferSize(), 8);
-    EXPECT_EQ(format.blueBufferSize(), 8);
-    EXPECT_GE(format.depthBufferSize(), 24);
-}
 
 TEST_F(EditorTest, AFrameWithNothingLoadedIsTheSkyColourInEveryView) {
     ASSERT_TRUE(WaitForFrames(2));
@@ -61,18 +44,6 @@ TEST_F(EditorTest, AFrameWithNothingLoadedIsTheSkyColourInEveryView) {
     ExpectSkyEverywhere(ReadFrame(), "top view frame");
     CurrentModel().M_Type = kMoyLoaded;
     ExpectSkyEverywhere(ReadFrame(), "frame of a .moy load");
-}
-
-TEST_F(EditorTest, TheSkyColourIsDividedBy256) {
-    ASSERT_TRUE(OGL().MakeCurrent());
-    Program().SkyColour = {255, 255, 255};
-    ASSERT_TRUE(OGL().Initialise(Surface()));
-    EXPECT_EQ(ClearColour(), (std::array<GLfloat, 4>{0.99609375f, 0.99609375f, 0.99609375f, 0.0f}));
-
-    Program().SkyColour = {0, 128, 64};
-    ASSERT_TRUE(OGL().Initialise(Surface()));
-    EXPECT_EQ(ClearColour(), (std::array<GLfloat, 4>{0.0f, 0.5f, 0.25f, 0.0f}));
-    EXPECT_EQ(PixelAt(ReadFrame(), 10, 10), (Rgb{0, 128, 64}));
 }
 
 TEST_F(EditorTest, AViewOfHeightZeroGetsAViewportOfHeightOne) {
@@ -105,7 +76,6 @@ TEST_F(EditorTest, ThePerspectiveCameraFollowsTheModelsCameraFields) {
     current.m_bank = 20.0f;
     ASSERT_TRUE(OGL().MakeCurrent());
     OGL().RenderFrame();
-
     QMatrix4x4 expected;
     expected.translate(3.0f, -2.0f, -250.0f);
     expected.rotate(-90.0f, 1.0f, 0.0f, 0.0f);
@@ -116,14 +86,6 @@ TEST_F(EditorTest, ThePerspectiveCameraFollowsTheModelsCameraFields) {
     glGetFloatv(GL_MODELVIEW_MATRIX, modelview.data());
     for (int i = 0; i < 16; ++i)
         EXPECT_NEAR(modelview[i], expected.constData()[i], 1e-3f) << "element " << i;
-
-    // An orthographic view keeps the matrix its camera set.
-    View().ViewMode = kFrontView;
-    glLoadIdentity();
-    OGL().RenderFrame();
-    glGetFloatv(GL_MODELVIEW_MATRIX, modelview.data());
-    EXPECT_EQ(modelview[12], 0.0f);
-    EXPECT_EQ(modelview[14], 0.0f);
 }
 
 TEST_F(EditorTest, DrawPassesOverAFamilyItCannotPaint) {

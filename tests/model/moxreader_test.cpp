@@ -26,39 +26,6 @@ FileRecord Read(const MoxBuilder& builder, int16_t index = 0) {
 
 } // namespace
 
-TEST(MoxReader, ReadsTheTexturedTriangleWithItsDisplayCode) {
-    ResetProgramState();
-    MoxBuilder builder;
-    builder.nodes = CountingNodes(0x13);
-    builder.streams = {StreamBytes()
-                           .Raw({0x94, 0x01, 0x05, 0x03, 0x10, 0x20, 0x40, 0x11, 0x70, 0x40, 0x12,
-                                 0x30, 0x08, 0x00, 0x07, 0xFF})
-                           .bytes};
-    RecordingHost host;
-    const FileRecord record = Read(builder, 3);
-
-    EXPECT_TRUE(host.messages.empty());
-    EXPECT_TRUE(record.Loaded);
-    EXPECT_EQ(record.Index, 3);
-    EXPECT_EQ(record.Filename, "/models/PLANEF.MOX");
-    EXPECT_EQ(Program().ProjectData.Type, 1);
-    ASSERT_EQ(record.Elements.size(), 2u);
-    const ElementList& list = record.Elements[0];
-    ASSERT_EQ(list.Count, 1) << "the closing byte becomes no entry";
-    ASSERT_EQ(list.Items.size(), 2u);
-    const Piggyback& item = list.Items[0];
-    EXPECT_EQ(item.COD, 148);
-    EXPECT_EQ(item.Flag, 1);
-    EXPECT_EQ(item.Type, 5);
-    EXPECT_EQ(item.CRN, 3);
-    EXPECT_EQ(item.NodeList, (std::vector<uint8_t>{0x10, 0x11, 0x12, 0}));
-    EXPECT_EQ(item.XMap, (std::vector<uint8_t>{0x20, 0x70, 0x30, 0}));
-    EXPECT_EQ(item.YMap, (std::vector<uint8_t>{0x40, 0x40, 0x08, 0}));
-    EXPECT_EQ(item.Att1, 0);
-    EXPECT_EQ(item.Att2, 7);
-    EXPECT_EQ(item.NextByte, 255);
-}
-
 TEST(MoxReader, ReadsEveryKindAndNumbersTheEntries) {
     MoxBuilder builder;
     builder.nodes = CountingNodes(8);
@@ -77,8 +44,15 @@ TEST(MoxReader, ReadsEveryKindAndNumbersTheEntries) {
             .End()
             .bytes,
     };
-    const FileRecord record = Read(builder);
+    ResetProgramState();
+    RecordingHost host;
+    const FileRecord record = Read(builder, 3);
 
+    EXPECT_TRUE(host.messages.empty());
+    EXPECT_TRUE(record.Loaded);
+    EXPECT_EQ(record.Index, 3);
+    EXPECT_EQ(record.Filename, "/models/PLANEF.MOX");
+    EXPECT_EQ(Program().ProjectData.Type, 1);
     const ElementList& empty = record.Elements[0];
     ASSERT_EQ(empty.Count, 1);
     EXPECT_EQ(empty.Items[0].Type, kTypeNull);
@@ -112,50 +86,32 @@ TEST(MoxReader, ReadsEveryKindAndNumbersTheEntries) {
     EXPECT_EQ(list.Items[6].XMap, (std::vector<uint8_t>{8, 0}));
 }
 
-TEST(MoxReader, FindsTheTablesWhateverTheCounts) {
-    for (const int16_t numParts : {0, 1, 3}) {
-        SCOPED_TRACE(numParts);
-        MoxBuilder builder;
-        builder.radius = -1234;
-        builder.SetTexture("PLANE.TPC");
-        if (numParts == 3)
-            builder.parts = {Part{1, 2, 3, 4, 5}, Part{2, 7, -3, -4, -5}};
-        builder.numParts = numParts;
-        builder.nodes = {Node{10, 20, 30, 1}};
-        builder.planes = {NRMRecord{16384, 0, 0, -70000, 12}};
-        builder.root = {0, 255};
-        builder.children = {{255, 7}};
-        builder.streams = {StreamBytes().Line(0, 0, 1).End().bytes};
-        const FileRecord record = Read(builder);
+TEST(MoxReader, FindsTheTablesInTheirOrder) {
+    MoxBuilder builder;
+    builder.radius = -1234;
+    builder.SetTexture("PLANE.TPC");
+    builder.parts = {Part{1, 2, 3, 4, 5}, Part{2, 7, -3, -4, -5}};
+    builder.nodes = {Node{10, 20, 30, 1}};
+    builder.planes = {NRMRecord{16384, 0, 0, -70000, 12}};
+    builder.root = {0, 255};
+    builder.children = {{255, 7}};
+    builder.streams = {StreamBytes().Line(0, 0, 1).End().bytes};
+    const FileRecord record = Read(builder);
 
-        EXPECT_EQ(record.Radius, -1234);
-        EXPECT_EQ(std::string(record.Texture.begin(), record.Texture.begin() + 9), "PLANE.TPC");
-        EXPECT_EQ(record.NumParts, numParts);
-        EXPECT_EQ(record.Parts.size(), static_cast<size_t>(numParts));
-        if (numParts == 3) {
-            EXPECT_EQ(record.Parts[1].Code, 2);
-            EXPECT_EQ(record.Parts[1].Num, 7);
-            EXPECT_EQ(record.Parts[1].X, -5);
-        }
-        EXPECT_EQ(record.NRM[0].Y, 16384);
-        EXPECT_EQ(record.NRM[0].D, -70000);
-        EXPECT_EQ(record.NRM[0].F, 12);
-        EXPECT_EQ(record.Root, (ChildPair{0, 255}));
-        EXPECT_EQ(record.PART[0], (ChildPair{255, 7}));
-        ASSERT_EQ(record.Nodes.size(), 2u);
-        EXPECT_EQ(record.Nodes[0].X, 30);
-        EXPECT_EQ(record.Nodes[0].B, 1);
-        EXPECT_EQ(record.Elements[0].Items[0].Type, 1);
-    }
-
-    MoxBuilder noElements;
-    noElements.root = {4, 5};
-    noElements.nodes = {Node{1, 2, 3, 0}};
-    const FileRecord record = Read(noElements);
-    EXPECT_EQ(record.NumElements, 0);
-    EXPECT_EQ(record.Root, (ChildPair{4, 5})) << "Root follows the empty tables";
-    EXPECT_EQ(record.Nodes[0].X, 3);
-    EXPECT_EQ(record.Elements.size(), 1u);
+    EXPECT_EQ(record.Radius, -1234);
+    EXPECT_EQ(std::string(record.Texture.begin(), record.Texture.begin() + 9), "PLANE.TPC");
+    EXPECT_EQ(record.NumParts, 3);
+    EXPECT_EQ(record.Parts[1].Code, 2);
+    EXPECT_EQ(record.Parts[1].Num, 7);
+    EXPECT_EQ(record.Parts[1].X, -5);
+    EXPECT_EQ(record.NRM[0].Y, 16384);
+    EXPECT_EQ(record.NRM[0].D, -70000);
+    EXPECT_EQ(record.NRM[0].F, 12);
+    EXPECT_EQ(record.Root, (ChildPair{0, 255}));
+    EXPECT_EQ(record.PART[0], (ChildPair{255, 7}));
+    EXPECT_EQ(record.Nodes[0].X, 30);
+    EXPECT_EQ(record.Nodes[0].B, 1);
+    EXPECT_EQ(record.Elements[0].Items[0].Type, 1);
 }
 
 TEST(MoxReader, HardpointsFillTheirSlotsTheLaterWinning) {
@@ -225,12 +181,10 @@ TEST(MoxReader, ReadsBeyondTheEndGiveZeros) {
 
     RecordingHost host;
     // An offset outside the file, negative or past its end, reads only zeros.
-    builder.offsetOverrides = {{0, -2}};
-    const FileRecord negative = Read(builder);
-    EXPECT_EQ(negative.Elements[0].Count, 256);
-    builder.offsetOverrides = {{0, 32767}};
-    const FileRecord beyond = Read(builder);
-    EXPECT_EQ(beyond.Elements[0].Count, 256);
+    for (const int16_t offset : {-2, 32767}) {
+        builder.offsetOverrides = {{0, offset}};
+        EXPECT_EQ(Read(builder).Elements[0].Count, 256) << offset;
+    }
     EXPECT_EQ(host.messages.size(), 2u);
 }
 

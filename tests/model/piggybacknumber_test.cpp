@@ -2,18 +2,6 @@
 
 #include <gtest/gtest.h>
 
-TEST(PiggybackNumber, SplitsByItsLastTwoDecimalDigits) {
-    EXPECT_EQ(MakeNumber(3, 7), 307);
-    const PiggybackRef ref = SplitNumber(25499);
-    EXPECT_EQ(ref.element, 254);
-    EXPECT_EQ(ref.position, 99);
-    EXPECT_EQ(SplitNumber(5).element, 0);
-    EXPECT_EQ(SplitNumber(5).position, 5);
-    // Position 100 of element 0 packs to the Number of element 1, position 0.
-    EXPECT_EQ(SplitNumber(MakeNumber(0, 100)).element, 1);
-    EXPECT_EQ(SplitNumber(MakeNumber(0, 100)).position, 0);
-}
-
 TEST(PiggybackNumber, GetElementNodeRefusesWhatDoesNotExist) {
     FileRecord record;
     record.NumNodes = 2;
