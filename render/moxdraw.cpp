@@ -1,5 +1,6 @@
 #include "moxdraw.h"
 
+#include "displaystates.h"
 #include "piggybacknumber.h"
 #include "sequencewalk.h"
 #include "viewsettings.h"
@@ -27,14 +28,6 @@ constexpr uint8_t kTypeColouredLine = 1;
 constexpr uint8_t kTypeHardpoint = 2;
 constexpr uint8_t kFirstMappedType = 5;
 constexpr GLuint kFileName = 0;
-
-// Display codes that tie a polygon to a state of the model.
-constexpr uint8_t kCodeTailwheels = 145;
-constexpr uint8_t kCodePilot = 146;
-constexpr uint8_t kCodeLeftWingDamage = 148;
-constexpr uint8_t kCodeRightWingDamage = 149;
-constexpr uint8_t kCodeLeftGear = 151;
-constexpr uint8_t kCodeRightGear = 152;
 
 // The last tick of "Rendering Sequence" seen; the depth test is on while it is false.
 bool sequenceOn = false;
@@ -87,19 +80,7 @@ bool IsCurrentFile(const FileRecord& record, const DrawSettings& settings) {
 
 // A polygon with one of the state codes shows only while its Flag equals that state.
 bool HiddenByState(const Piggyback& item, const DrawSettings& settings) {
-    switch (item.COD) {
-    case kCodeTailwheels:
-    case kCodeLeftGear:
-    case kCodeRightGear:
-        return item.Flag != settings.lg;
-    case kCodePilot:
-        return item.Flag != settings.pilot;
-    case kCodeLeftWingDamage:
-    case kCodeRightWingDamage:
-        return item.Flag != settings.wing;
-    default:
-        return false;
-    }
+    return HiddenByState(item, DisplayStates{settings.pilot, settings.lg, settings.wing});
 }
 
 void DrawHardpoint(const FileRecord& record, const Piggyback& item, const Node& displacement,
