@@ -10,9 +10,12 @@
 #include "optionsdialog.h"
 #include "programstate.h"
 #include "repeatedmessages.h"
+#include "stepcloser.h"
 #include "toolbarimages.h"
+#include "viewsettings.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -70,11 +73,13 @@ static void LoadShellResources() {
 frm_main::frm_main() {
     LoadShellResources();
     setObjectName("frm_main");
-    setWindowTitle(kTitle);
+    titleBase_ = kTitle;
     setWindowIcon(ProgramIcon());
     BuildMenus();
     BuildToolbar();
     BuildPanes();
+    qApp->installEventFilter(new StepCloser(this));
+    ShowJournal();
     resize(kClientWidth,
            kClientHeight + menuBar()->sizeHint().height() + tlb_main->sizeHint().height());
     if (const QScreen* shown = screen())
@@ -88,6 +93,7 @@ void frm_main::Form_Load() {
     SelectTab(kModelInfoTab);
     mnu_m_pick_Click();
     ReplaceCurrentModel();
+    ShowJournal();
 }
 
 bool frm_main::Form_Unload() {
@@ -146,10 +152,34 @@ QString frm_main::AskForFile(bool saving, const char* title, const char* filter)
 
 void frm_main::OpenModel(std::string fileName) {
     OpenIntoNewModel([&fileName](model& opened) { opened.Load(fileName); });
+    ShowJournal();
 }
 
 void frm_main::OpenProject(std::string fileName) {
     OpenIntoNewModel([&fileName](model& opened) { opened.LoadProject(fileName); });
+    ShowJournal();
+}
+
+void frm_main::mnu_e_undo_Click() {
+    ShowRestored(CurrentModel().Undo());
+}
+
+void frm_main::mnu_e_redo_Click() {
+    ShowRestored(CurrentModel().Redo());
+}
+
+void frm_main::ShowRestored(bool restored) {
+    if (!restored)
+        return;
+    CurrentModel().WriteInfo(View().CurrentTab);
+    // The Centre Mover's UNDO takes back the moves its totals add up; after the journal moved
+    // the nodes, those totals no longer tell what it would take back.
+    ResetCentreMover();
+}
+
+void frm_main::SetTitle(const QString& title) {
+    titleBase_ = title;
+    ShowJournal();
 }
 
 void frm_main::mnu_f_load_Click() {
