@@ -1,28 +1,12 @@
 #include "recordedchange.h"
 
 #include "model.h"
+#include "recordfields.h"
 
 #include <tuple>
 #include <utility>
 
 namespace {
-
-auto Fields(const Part& p) {
-    return std::tie(p.Code, p.Num, p.Y, p.Z, p.X);
-}
-auto Fields(const NRMRecord& n) {
-    return std::tie(n.Y, n.Z, n.X, n.D, n.F);
-}
-auto Fields(const Node& n) {
-    return std::tie(n.Y, n.Z, n.X, n.B);
-}
-auto Fields(const Piggyback& p) {
-    return std::tie(p.Number, p.COD, p.Flag, p.Type, p.CRN, p.NodeList, p.XMap, p.YMap, p.Att1,
-                    p.Att2, p.NextByte);
-}
-auto Fields(const ChildPair& c) {
-    return std::tie(c);
-}
 
 template <typename T> bool SameEntries(const std::vector<T>& a, const std::vector<T>& b) {
     if (a.size() != b.size())
