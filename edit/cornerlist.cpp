@@ -2,6 +2,7 @@
 
 #include "editsteps.h"
 #include "modelhost.h"
+#include "recordedchange.h"
 
 #include <utility>
 
@@ -28,6 +29,7 @@ void AddNodeToElement(model& m) {
         ShowMessage(kCornersFull);
         return;
     }
+    const RecordedChange change(m, "Add corner");
     ++item->CRN;
     SizeCornerLists(*item, static_cast<size_t>(item->CRN) + 1);
     const int last = item->CRN - 1;
@@ -50,6 +52,7 @@ void DeleteNodeFromElement(model& m, int16_t node) {
     }
     if (node < 0 || node >= item->CRN)
         return;
+    const RecordedChange change(m, "Delete corner");
     PadCornerLists(*item, static_cast<size_t>(item->CRN) + 1);
     // The last corner is copied down but not cleared: its value stays behind as the spare entry.
     for (int k = node; k <= item->CRN - 2; ++k) {
@@ -65,6 +68,7 @@ void SwapNodes(model& m, int16_t node1, int16_t node2) {
     Piggyback* item = SelectedPiggyback(m);
     if (item == nullptr || node1 < 0 || node1 >= item->CRN || node2 < 0 || node2 >= item->CRN)
         return;
+    const RecordedChange change(m, "Swap corners");
     PadCornerLists(*item, static_cast<size_t>(item->CRN) + 1);
     std::swap(item->NodeList[node1], item->NodeList[node2]);
     std::swap(item->XMap[node1], item->XMap[node2]);

@@ -3,6 +3,7 @@
 #include "editsteps.h"
 #include "modelhost.h"
 #include "piggybacknumber.h"
+#include "recordedchange.h"
 
 namespace {
 
@@ -48,6 +49,7 @@ void Delete_Element(model& m, int16_t number) {
     const int i = SplitNumber(number).element;
     if (i < 0 || i >= file->NumElements)
         return;
+    const RecordedChange change(m, "Delete element " + std::to_string(i));
     if (file->NumElements >= 2) {
         const size_t size = static_cast<size_t>(file->NumElements) + 1;
         file->Elements.resize(size);
@@ -80,6 +82,7 @@ void Delete_Piggyback(model& m, int16_t number) {
     FileRecord* file = EditableFile(m);
     if (file == nullptr || NamedPiggyback(*file, number) == nullptr)
         return;
+    const RecordedChange change(m, "Delete piggyback " + std::to_string(number));
     const PiggybackRef ref = SplitNumber(number);
     ElementList& list = file->Elements[ref.element];
     if (list.Count >= 2) {

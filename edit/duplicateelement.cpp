@@ -5,6 +5,7 @@
 #include "elementkind.h"
 #include "modelhost.h"
 #include "piggybacknumber.h"
+#include "recordedchange.h"
 
 #include <string>
 
@@ -56,6 +57,7 @@ void Duplicate_Element(model& m, bool toPB, int16_t Source) {
         return;
     }
     Piggyback copy = CopyOf(*source);
+    const std::string label = "Duplicate piggyback " + std::to_string(Source);
 
     if (toPB) {
         ElementList& list = file->Elements[s];
@@ -65,6 +67,7 @@ void Duplicate_Element(model& m, bool toPB, int16_t Source) {
                         "Nothing was copied.");
             return;
         }
+        const RecordedChange change(m, label);
         const int q = list.Count;
         ++list.Count;
         list.Items.resize(static_cast<size_t>(list.Count) + 1);
@@ -79,6 +82,7 @@ void Duplicate_Element(model& m, bool toPB, int16_t Source) {
                     "Nothing was copied.");
         return;
     }
+    const RecordedChange change(m, label);
     const NRMRecord plane = EntryOr(file->NRM, s);
     const int t = file->NumElements;
     ++file->NumElements;

@@ -2,6 +2,7 @@
 
 #include "editsteps.h"
 #include "elementkind.h"
+#include "recordedchange.h"
 
 #include <algorithm>
 #include <map>
@@ -20,6 +21,7 @@ void ChangeType(model& m, int16_t newtype) {
     Piggyback* item = file != nullptr ? NamedPiggyback(*file, m.m_currelem) : nullptr;
     if (item == nullptr || newtype < 0)
         return;
+    const RecordedChange change(m, "Change kind");
     const uint8_t type = newtype < kNullListIndex ? static_cast<uint8_t>(newtype + 1) : kTypeNull;
     item->Type = type;
     if (type == kTypeColouredLine)
@@ -37,6 +39,7 @@ void MoveElement(model& m, int16_t element, int32_t Axis, int16_t dist) {
     Node probe;
     if (item == nullptr || CoordinateOf(probe, Axis) == nullptr)
         return;
+    const RecordedChange change(m, "Move piggyback " + std::to_string(element));
     const int nodes = std::min<int>(file->NumNodes, static_cast<int>(file->Nodes.size()));
     // How often each node is named: it moves once per corner. A corner naming no node of the
     // table has nothing to move.

@@ -2,6 +2,7 @@
 
 #include "editsteps.h"
 #include "modelhost.h"
+#include "recordedchange.h"
 
 #include <algorithm>
 #include <string>
@@ -77,6 +78,7 @@ void AddNode(model& m) {
         ShowMessage(kTooManyNodes);
         return;
     }
+    const RecordedChange change(m, "Add node");
     ++file->NumNodes;
     file->Nodes.resize(static_cast<size_t>(file->NumNodes) + 1);
     file->Nodes[file->NumNodes - 1] = Node{};
@@ -100,6 +102,7 @@ void RemoveNodes(model& m, bool zero) {
     if (zero) {
         if (!Ask("Do you want to set all " + unused + " unused nodes to ZERO?", "Zero Nodes?"))
             return;
+        const RecordedChange change(m, "Zero unused nodes");
         for (int n = 0; n < count; ++n) {
             if (!used[n])
                 file->Nodes[n] = Node{};
@@ -109,6 +112,7 @@ void RemoveNodes(model& m, bool zero) {
 
     if (!Ask("Do you want to delete all " + unused + " unused nodes?", "Delete Nodes?"))
         return;
+    const RecordedChange change(m, "Delete unused nodes");
     std::vector<int> shift(used.size(), 0);
     int running = 0;
     for (int n = 0; n < count; ++n) {
@@ -138,5 +142,6 @@ void MoveNode(model& m, [[maybe_unused]] int16_t node, int32_t Axis, int16_t dis
                                         : nullptr;
     if (spin == nullptr)
         return;
+    const RecordedChange change(m, "Move node " + std::to_string(Host().SpinValue(kNodeSpin)));
     Host().SetSpinValue(spin, std::clamp(Host().SpinValue(spin) + dist, kSpinMin, kSpinMax));
 }

@@ -2,6 +2,7 @@
 
 #include "editsteps.h"
 #include "modelhost.h"
+#include "recordedchange.h"
 
 #include <algorithm>
 #include <array>
@@ -58,6 +59,7 @@ bool MoveAllNodes(model& m, int32_t Axis, int16_t dist) {
             return false;
         }
     }
+    const RecordedChange change(m, std::string("Move model along ") + AxisName(Axis));
     for (int n = 0; n < nodes; ++n) {
         int16_t* coordinate = CoordinateOf(file->Nodes[n], Axis);
         *coordinate = static_cast<int16_t>(*coordinate + dist);
@@ -93,6 +95,7 @@ bool Rescale(model& m, double Factor) {
             }
         }
     }
+    const RecordedChange change(m, "Rescale");
     for (int n = 0; n < nodes; ++n) {
         for (const int32_t axis : kAxesInOrder) {
             int16_t* coordinate = CoordinateOf(file->Nodes[n], axis);

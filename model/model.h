@@ -2,6 +2,7 @@
 // the panels share.
 #pragma once
 
+#include "changejournal.h"
 #include "familynames.h"
 #include "filerecord.h"
 #include "infofields.h"
@@ -35,6 +36,9 @@ public:
     // Empty until a family or a project is loaded, then kFileSlots records.
     std::vector<FileRecord> Files;
 
+    // The changes made to Files since the load, for Undo and Redo (changejournal.h).
+    ChangeJournal Journal;
+
     // The project file (modelproject.cpp).
     void SaveProject();
     void LoadProject(const std::string& Filename);
@@ -63,6 +67,12 @@ public:
     // 14 bytes of the texture name. None where UpdateInfo would write nothing for want of a file
     // or an item.
     std::optional<std::string> InfoText(int32_t field, int16_t i, int16_t j) const;
+
+    // Take back the newest change, or bring back the last one taken back (modelundo.cpp). A
+    // selection that names no piggyback or node any more is cleared. False when there was
+    // nothing to do.
+    bool Undo();
+    bool Redo();
 
 private:
     // Reads `filename` into Files(slot) and notes the slot in the record.

@@ -51,6 +51,7 @@ bool model::Load(std::string& Filename) {
     case FileKind::Mox: {
         M_Type = kMoxLoaded;
         Files.assign(kFileSlots, FileRecord{});
+        Journal = ChangeJournal();
         ReadSlot(Filename, 0);
         const Family family = FamilyOf(Filename);
         if (family == Family::None)
@@ -114,18 +115,21 @@ void model::Save(const std::string& Filename) {
         FileRecord& file = Files[m_currmox];
         file.Filename = NextSaveName(file.Filename);
         written = file.Filename;
-        SAVE_MOX(file, written);
+        if (SAVE_MOX(file, written))
+            Journal.MarkSaved(m_currmox);
     } else if (Filename == kSaveAllCommand) {
         for (int k = 0; k <= kLastFamilySlot; ++k) {
             if (!Files[k].Loaded)
                 continue;
             written = NextSaveName(Files[k].Filename);
-            SAVE_MOX(Files[k], written);
+            if (SAVE_MOX(Files[k], written))
+                Journal.MarkSaved(static_cast<int16_t>(k));
             Files[k].Filename = written;
         }
     } else {
         // Save As: the record keeps its own name, so the next plain save goes there again.
-        SAVE_MOX(Files[m_currmox], Filename);
+        if (SAVE_MOX(Files[m_currmox], Filename))
+            Journal.MarkSaved(m_currmox);
     }
     const std::string current = Files[m_currmox].Filename;
     if (PushRecent(Program().RecentModels, written, current))

@@ -61,6 +61,9 @@ public:
     virtual void SetHelpBold([[maybe_unused]] bool bold) {}
     // Fills the panel of tab `tab` (1 to 7) from the record of the current file.
     virtual void FillPanel([[maybe_unused]] int32_t tab) {}
+    // The journal of changes of the open model changed: what Undo and Redo would do, and whether
+    // the files differ from what was last loaded or saved.
+    virtual void JournalChanged() {}
     // Lets pending window events run, so that the window repaints during a long load. The user's
     // input stays queued: a menu must not replace the model while it is being loaded.
     virtual void LetEventsRun() {}

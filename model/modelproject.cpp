@@ -149,6 +149,7 @@ void model::LoadProject(const std::string& Filename) {
     }
     std::ifstream in(path, std::ios::binary);
     Files.assign(kFileSlots, FileRecord{});
+    Journal = ChangeJournal();
     const std::string caption = Host().HelpCaption();
     Host().SetHelpBold(true);
     Program().ProjectData.ProjectFile = path;

@@ -1,6 +1,7 @@
 // The write of one numbered field from a panel, and the read of the same field.
 #include "model.h"
 #include "piggybacknumber.h"
+#include "recordedchange.h"
 #include "wholenumber.h"
 
 #include <algorithm>
@@ -135,6 +136,7 @@ InfoWrite model::UpdateInfo(int32_t field, const std::string& value, int16_t i, 
     auto slot = CurrentSlot(*this, field, i, j);
     if (std::holds_alternative<std::monostate>(slot))
         return InfoWrite::Refused;
+    const RecordedChange change(*this, FindInfoField(field)->recordField);
     if (TextureName** texture = std::get_if<TextureName*>(&slot)) {
         (*texture)->fill(kTexturePad);
         std::copy_n(value.begin(), std::min(value.size(), (*texture)->size()), (*texture)->begin());

@@ -1,6 +1,7 @@
 // The menu bar and the toolbar of frm_main, each built from one table.
 #include "mainwindow.h"
 
+#include "currentmodel.h"
 #include "statebuttons.h"
 #include "toolbarimages.h"
 
@@ -17,6 +18,12 @@
 namespace {
 
 constexpr int kRecentEntries = 4;
+// Follows the file name in the title while the files differ from what was loaded or saved.
+constexpr const char* kModifiedMark = "*";
+constexpr const char* kUndoCaption = "&Undo";
+constexpr const char* kRedoCaption = "&Redo";
+constexpr const char* kUndoTip = "Undo (Ctrl+Z)";
+constexpr const char* kRedoTip = "Redo (Ctrl+Shift+Z)";
 
 enum class Line {
     Menu,
@@ -54,6 +61,9 @@ const std::vector<MenuLine>& MenuLines() {
         {Line::RecentModels, "mnu_f_recent"},
         {Line::HiddenSeparator, "mnu_f_2"},
         {Line::Entry, "mnu_f_exit", "E&xit", "", nullptr},
+        {Line::Menu, "mnu_edit", "&Edit"},
+        {Line::Entry, "mnu_e_undo", kUndoCaption, "Ctrl+Z", &F::mnu_e_undo_Click},
+        {Line::Entry, "mnu_e_redo", kRedoCaption, "Ctrl+Shift+Z; Ctrl+Y", &F::mnu_e_redo_Click},
         {Line::Menu, "mnu_project", "&Project"},
         {Line::Entry, "mnu_f_loadproject", "Load &Project...", "", &F::mnu_f_loadproject_Click},
         {Line::Entry, "mnu_f_saveproject", "Save Project...", "", &F::mnu_f_saveproject_Click},
@@ -120,6 +130,8 @@ const std::vector<ButtonLine>& ButtonLines() {
     static const std::vector<ButtonLine> lines{
         {"Open", "Open File", Style::Push, false, "mnu_f_load"},
         {"Save", "Save File", Style::Push, false, "mnu_f_save"},
+        {"Undo", kUndoTip, Style::Push, false, "mnu_e_undo"},
+        {"Redo", kRedoTip, Style::Push, false, "mnu_e_redo"},
         {nullptr},
         {"X", "Modify X Axis (X)", Style::Group, true, "mnu_m_a_x"},
         {"Y", "Modify Y Axis (Y)", Style::Group, false, "mnu_m_a_y"},
@@ -206,7 +218,7 @@ void frm_main::BuildMenus() {
                 entry = menu->addAction(line.caption);
                 entry->setObjectName(line.name);
             }
-            entry->setShortcut(QKeySequence(line.shortcut));
+            entry->setShortcuts(QKeySequence::listFromString(line.shortcut));
             if (line.tick == Tick::View || line.tick == Tick::Tool || line.tick == Tick::Axis) {
                 entry->setCheckable(true);
                 entry->setChecked(line.ticked);
@@ -232,6 +244,22 @@ void frm_main::BuildMenus() {
     mnu_v_rs = Entry("mnu_v_rs");
     // The tick shows the state of the toolbar button RS, which alone changes it.
     mnu_v_rs->setEnabled(false);
+}
+
+void frm_main::ShowJournal() {
+    const ChangeJournal& journal = CurrentModel().Journal;
+    const auto show = [this](const char* entry, const char* key, const char* caption,
+                             const char* tip, bool can, const std::string& label) {
+        const QString change = can ? QStringLiteral(" ") + QString::fromStdString(label) : "";
+        Entry(entry)->setText(caption + change);
+        Entry(entry)->setEnabled(can);
+        QString tipText = tip;
+        Button(key)->setToolTip(tipText.insert(tipText.indexOf(" ("), change));
+        Button(key)->setEnabled(can);
+    };
+    show("mnu_e_undo", "Undo", kUndoCaption, kUndoTip, journal.CanUndo(), journal.UndoLabel());
+    show("mnu_e_redo", "Redo", kRedoCaption, kRedoTip, journal.CanRedo(), journal.RedoLabel());
+    setWindowTitle(titleBase_ + (journal.Modified() ? kModifiedMark : ""));
 }
 
 // A checkable entry bound to its tick in the view state: the entry starts from the tick, and every

@@ -10,10 +10,13 @@
 #include "optionsdialog.h"
 #include "programstate.h"
 #include "repeatedmessages.h"
+#include "stepcloser.h"
 #include "texturewindow.h"
 #include "toolbarimages.h"
+#include "viewsettings.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -71,12 +74,14 @@ static void LoadShellResources() {
 frm_main::frm_main() {
     LoadShellResources();
     setObjectName("frm_main");
-    setWindowTitle(kTitle);
+    titleBase_ = kTitle;
     setWindowIcon(ProgramIcon());
     BuildMenus();
     BuildToolbar();
     BuildPanes();
     BuildTextureWindow();
+    qApp->installEventFilter(new StepCloser(this));
+    ShowJournal();
     resize(kClientWidth,
            kClientHeight + menuBar()->sizeHint().height() + tlb_main->sizeHint().height());
     if (const QScreen* shown = screen())
@@ -90,6 +95,7 @@ void frm_main::Form_Load() {
     SelectTab(kModelInfoTab);
     mnu_m_pick_Click();
     ReplaceCurrentModel();
+    ShowJournal();
 }
 
 bool frm_main::Form_Unload() {
@@ -148,10 +154,34 @@ QString frm_main::AskForFile(bool saving, const char* title, const char* filter)
 
 void frm_main::OpenModel(std::string fileName) {
     OpenIntoNewModel([&fileName](model& opened) { opened.Load(fileName); });
+    ShowJournal();
 }
 
 void frm_main::OpenProject(std::string fileName) {
     OpenIntoNewModel([&fileName](model& opened) { opened.LoadProject(fileName); });
+    ShowJournal();
+}
+
+void frm_main::mnu_e_undo_Click() {
+    ShowRestored(CurrentModel().Undo());
+}
+
+void frm_main::mnu_e_redo_Click() {
+    ShowRestored(CurrentModel().Redo());
+}
+
+void frm_main::ShowRestored(bool restored) {
+    if (!restored)
+        return;
+    CurrentModel().WriteInfo(View().CurrentTab);
+    // The Centre Mover's UNDO takes back the moves its totals add up; after the journal moved
+    // the nodes, those totals no longer tell what it would take back.
+    ResetCentreMover();
+}
+
+void frm_main::SetTitle(const QString& title) {
+    titleBase_ = title;
+    ShowJournal();
 }
 
 void frm_main::mnu_f_load_Click() {

@@ -14,6 +14,7 @@
 
 class EditPanels;
 class FramePacer;
+class StepCloser;
 class GLView;
 class QAction;
 class QActionGroup;
@@ -122,6 +123,14 @@ public:
     void mnu_f_saveproject_Click();
     void mnu_p_recent_Click(int entry);
     void mnu_f_options_Click();
+    // The Edit menu: take back the newest change, bring back the last one taken back.
+    void mnu_e_undo_Click();
+    void mnu_e_redo_Click();
+    // The Edit entries, the Undo and Redo buttons and the title's mark of unsaved changes, from
+    // the journal of the open model.
+    void ShowJournal();
+    // The title without the mark of unsaved changes.
+    void SetTitle(const QString& title);
     void mnu_h_about_Click();
 
     QMenu* mnu_file = nullptr;
@@ -193,5 +202,9 @@ private:
     QActionGroup* viewEntries_ = nullptr;
     QActionGroup* toolEntries_ = nullptr;
     QActionGroup* axisEntries_ = nullptr;
+    // After an undo or redo: the shown panel filled again, the Centre Mover's totals cleared.
+    void ShowRestored(bool restored);
+
     QPointer<frm_options> options_;
+    QString titleBase_;
 };

@@ -131,7 +131,12 @@ void QtModelHost::SetToolbarImage(const std::string& button, const std::string& 
 
 void QtModelHost::SetWindowTitle(const std::string& title) {
     if (window_ != nullptr)
-        window_->setWindowTitle(QString::fromStdString(title));
+        window_->SetTitle(QString::fromStdString(title));
+}
+
+void QtModelHost::JournalChanged() {
+    if (window_ != nullptr)
+        window_->ShowJournal();
 }
 
 void QtModelHost::ShowFirstEditTab() {

@@ -34,6 +34,7 @@ public:
     bool HelpBold() override;
     void SetHelpBold(bool bold) override;
     void LetEventsRun() override;
+    void JournalChanged() override;
 
 private:
     template <typename Control> Control* Find(const char* name) const;

@@ -48,6 +48,9 @@ const std::vector<MenuRow> kMenuRows = {
     {"mnu_f_recent(3)", "", "", false, false, false},
     {"mnu_f_2", "", "", false, false, false},
     {"mnu_f_exit", "E&xit"},
+    {"mnu_edit", "&Edit"},
+    {"mnu_e_undo", "&Undo", "Ctrl+Z"},
+    {"mnu_e_redo", "&Redo", "Ctrl+Shift+Z"},
     {"mnu_project", "&Project"},
     {"mnu_f_loadproject", "Load &Project..."},
     {"mnu_f_saveproject", "Save Project..."},
@@ -103,6 +106,8 @@ struct ButtonRow {
 const std::vector<ButtonRow> kButtonRows = {
     {"Open", "Open File"},
     {"Save", "Save File"},
+    {"Undo", "Undo (Ctrl+Z)"},
+    {"Redo", "Redo (Ctrl+Shift+Z)"},
     {"-"},
     {"X", "Modify X Axis (X)", Style::Group, true},
     {"Y", "Modify Y Axis (Y)", Style::Group},
@@ -158,7 +163,11 @@ TEST_F(EditorTest, MenusAndToolbarStandAsTheirTablesSay) {
         EXPECT_EQ(entry->isChecked(), row.checked) << row.name;
         EXPECT_EQ(entry->isVisible(), row.visible) << row.name;
         if (row.visible) {
-            EXPECT_EQ(entry->isEnabled(), std::string(row.name) != "mnu_v_rs") << row.name;
+            // Nothing to undo or redo before a change.
+            const std::string name = row.name;
+            EXPECT_EQ(entry->isEnabled(),
+                      name != "mnu_v_rs" && name != "mnu_e_undo" && name != "mnu_e_redo")
+                << row.name;
         }
     }
 

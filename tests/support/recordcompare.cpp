@@ -1,25 +1,12 @@
 #include "recordcompare.h"
 
+#include "recordfields.h"
+
 #include <tuple>
 
 namespace {
 
-auto Fields(const Part& p) {
-    return std::tie(p.Code, p.Num, p.Y, p.Z, p.X);
-}
-auto Fields(const NRMRecord& n) {
-    return std::tie(n.Y, n.Z, n.X, n.D, n.F);
-}
-auto Fields(const ChildPair& c) {
-    return std::tie(c);
-}
-auto Fields(const Node& n) {
-    return std::tie(n.Y, n.Z, n.X, n.B);
-}
-auto Fields(const Piggyback& p) {
-    return std::tie(p.Number, p.COD, p.Flag, p.Type, p.CRN, p.NodeList, p.XMap, p.YMap, p.Att1,
-                    p.Att2, p.NextByte);
-}
+using ::Fields;
 auto Fields(const ElementList& list) {
     return std::tie(list.Count);
 }

@@ -76,6 +76,12 @@ void RecordingHost::SetWindowTitle(const std::string& text) {
         windowSide->SetWindowTitle(text);
 }
 
+// Not recorded: every change makes one, and what it shows is the journal's own state.
+void RecordingHost::JournalChanged() {
+    if (windowSide != nullptr)
+        windowSide->JournalChanged();
+}
+
 void RecordingHost::ShowFirstEditTab() {
     calls.emplace_back("first tab");
     if (windowSide != nullptr)

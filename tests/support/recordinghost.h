@@ -36,6 +36,7 @@ public:
     void SetHelpBold(bool bold) override;
     void FillPanel(int32_t tab) override;
     void LetEventsRun() override;
+    void JournalChanged() override;
 
     // The calls since `mark` that are not one of the pending-event runs, which a project load
     // makes after every line.
