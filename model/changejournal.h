@@ -20,8 +20,10 @@ constexpr std::size_t kJournalBytes = std::size_t{64} << 20;
 
 class ChangeJournal {
 public:
-    explicit ChangeJournal(std::size_t maxSteps = kJournalSteps,
-                           std::size_t maxBytes = kJournalBytes);
+    // Not explicit: the model that holds the journal stays a plain struct that can be built
+    // from braces, which is how its members are counted and visited.
+    ChangeJournal() : ChangeJournal(kJournalSteps, kJournalBytes) {}
+    ChangeJournal(std::size_t maxSteps, std::size_t maxBytes);
 
     // Keeps `before`, the record of file `slot` as it stood before the change `label`. While the
     // newest change is still open and has the same label and file, the two are one change and

@@ -33,6 +33,8 @@ inline constexpr std::size_t kMostMembers = 32;
 // Calls `visit` on each member of `value`.
 template <typename T, typename Visit> void ForEachMember(T& value, Visit&& visit) {
     constexpr std::size_t count = MemberCount<std::remove_const_t<T>>();
+    // A member that cannot be built from empty braces stops the count at nothing.
+    static_assert(count > 0, "every member can be built from empty braces");
     static_assert(std::is_aggregate_v<std::remove_const_t<T>> && count <= kMostMembers,
                   "a plain struct of at most kMostMembers members; add a row below for more");
     const auto all = [&visit](auto&... members) { (visit(members), ...); };

@@ -1,5 +1,6 @@
 #include "scenefingerprint.h"
 
+#include "changejournal.h"
 #include "memberwise.h"
 
 #include <algorithm>
@@ -30,6 +31,8 @@ public:
             Add(value != nullptr);
             if (value != nullptr)
                 Add(*value);
+        } else if constexpr (std::is_same_v<T, ChangeJournal>) {
+            // The journal is what Undo restores, never what a frame shows.
         } else if constexpr (std::is_same_v<T, std::string>) {
             AddBytes(value.data(), value.size());
         } else if constexpr (std::has_unique_object_representations_v<T>) {

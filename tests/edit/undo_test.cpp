@@ -126,7 +126,7 @@ TEST(Undo, OneGestureIsOneStepAndANewChangeDropsWhatWasTakenBack) {
 
 TEST(Undo, TheBoundDropsTheOldestAndTheFileStaysChanged) {
     model m = Edited();
-    m.Journal = ChangeJournal(3);
+    m.Journal = ChangeJournal(3, kJournalBytes);
     std::vector<FileRecord> states{m.Files[0]};
     for (int step = 0; step < 5; ++step) {
         MoveAllNodes(m, kAxisY, 1);
