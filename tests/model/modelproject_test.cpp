@@ -103,9 +103,9 @@ TEST_F(ModelProject, SavedProjectLoadsBackWithItsFamilyAndNotes) {
                                   "help caption: Loading Top View",
                                   "help caption: Left Mouse: PICK", "help bold: off"}));
     EXPECT_EQ(host.title, "Skylathe - plane.3vw");
-    EXPECT_TRUE(std::none_of(calls.begin(), calls.end(),
-                             [](const std::string& call) { return call.rfind("spin", 0) == 0; }))
-        << "the spins keep their values";
+    EXPECT_TRUE(std::none_of(calls.begin(), calls.end(), [](const std::string& call) {
+        return call.rfind("spin", 0) == 0;
+    })) << "the spins keep their values";
     // Events run after every line up to "Notes=" and after that one, empty lines included.
     EXPECT_EQ(std::count(host.calls.begin(), host.calls.end(), "events"), 21);
 }
