@@ -1,3 +1,4 @@
+// Loading a family of model files from one name, and where each save of it writes.
 #include "model.h"
 #include "modelfiles.h"
 #include "programstate.h"
@@ -7,177 +8,134 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <filesystem>
+#include <sstream>
 
 namespace {
 
-const std::vector<std::string> kFRows{"MAIN MODEL (F)", "A.MOX", "B.MOX", "C.MOX",
-                                      "E.MOX",          "G.MOX", "P.MOX"};
-const std::vector<std::string> kHRows{"MAIN MODEL (H)", "S.MOX", "L.MOX", "D.MOX"};
+using Names = std::vector<std::string>;
+
+const Names kFRows{"MAIN MODEL (F)", "A.MOX", "B.MOX", "C.MOX", "E.MOX", "G.MOX", "P.MOX"};
+const Names kHRows{"MAIN MODEL (H)", "S.MOX", "L.MOX", "D.MOX"};
 constexpr const char* kQuestion = "question question: Load this model AND connected models?";
 
-class ModelFamily : public ::testing::Test {
-protected:
-    void SetUp() override { ResetProgramState(); }
+// Which file each slot holds, by the file's Radius, "." where no file was read.
+std::string Slots(const model& m) {
+    std::string slots;
+    for (int16_t slot = 0; slot < static_cast<int16_t>(m.Files.size()); ++slot)
+        slots += m.CheckMOX(slot) ? static_cast<char>('0' + m.Files[slot].Radius) : '.';
+    return slots;
+}
 
-    std::string Write(const std::string& name, int16_t radius) {
-        const std::string path = dir.file(name);
-        WriteSmallModel(path, radius);
-        return path;
-    }
-
-    // Loads `name` from the folder into `m`, answering the family question with `answer`.
-    std::string Load(model& m, const std::string& name, MessageAnswer answer) {
-        host.answers = {answer};
-        std::string filename = dir.file(name);
-        m.Load(filename);
-        return filename;
-    }
-
-    std::vector<std::string> FileNames() const {
-        std::vector<std::string> names;
-        for (const auto& entry : std::filesystem::directory_iterator(dir.path()))
-            names.push_back(entry.path().filename().string());
-        std::sort(names.begin(), names.end());
-        return names;
-    }
-
-    TempDir dir;
-    RecordingHost host;
-};
+bool Called(const RecordingHost& host, const std::string& call) {
+    return std::count(host.calls.begin(), host.calls.end(), call) > 0;
+}
 
 } // namespace
 
-TEST_F(ModelFamily, MainLetterAsksAndNoLoadsTheMainFileAlone) {
-    Write("PLANEF.MOX", 10);
-    Write("PLANEA.MOX", 11);
-    model m;
-    const std::string chosen = Load(m, "PLANEF.MOX", MessageAnswer::No);
+TEST(ModelFamily, TheMainLetterBringsTheFamilyWhenTheUserSaysYes) {
+    struct Row {
+        std::string files, load;
+        MessageAnswer answer;
+        bool asked;
+        std::string slots;
+        Names familyList;
+        std::string recent;
+    };
+    const MessageAnswer yes = MessageAnswer::Yes, no = MessageAnswer::No;
+    // The files in the folder (each with its place in this list as its Radius), the file loaded,
+    // the answer, whether the question was asked, the file each slot holds, the family list shown
+    // and the first recent entry.
+    const Row rows[] = {
+        {"PLANEF.MOX PLANEA.MOX", "PLANEF.MOX", no, true, "1.......", kFRows, "PLANEF.MOX"},
+        // A missing connected file is passed over without a word.
+        {"TMOD1H.MOX TMOD1L.MOX", "TMOD1H.MOX", yes, true, "1.2.....", kHRows, "TMOD1H.MOX"},
+        // Only the first letter and the letter before the extension count, in any case; the
+        // recent entry ends in the main letter.
+        {"pf.mox pa.mox pP.MOX", "pf.mox", yes, true, "12....3.", kFRows, "pF.MOX"},
+        // Any other letter of a family, or a numbered save, loads alone.
+        {"PANELF.MOX PANELA.MOX", "PANELA.MOX", yes, false, "2.......", kFRows, "PANELA.MOX"},
+        {"PF_001.MOX PA.MOX", "PF_001.MOX", yes, false, "1.......", kFRows, "PF_001.MOX"},
+        {"XWINGF.MOX XWINGA.MOX", "XWINGF.MOX", yes, false, "1.......", {}, "XWINGF.MOX"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.load);
+        ResetProgramState();
+        TempDir dir;
+        RecordingHost host;
+        std::istringstream names(row.files);
+        int16_t radius = 0;
+        for (std::string name; names >> name;)
+            WriteSmallModel(dir.file(name), ++radius);
+        host.answers = {row.answer};
+        model m;
+        std::string chosen = dir.file(row.load);
+        m.Load(chosen);
 
-    EXPECT_EQ(host.messages, std::vector<std::string>{"Load this model AND connected models?"});
-    EXPECT_EQ(host.calls.front(), kQuestion);
-    EXPECT_EQ(m.M_Type, kMoxLoaded);
-    ASSERT_EQ(m.Files.size(), 8u);
-    EXPECT_EQ(m.Files[0].Radius, 10);
-    EXPECT_TRUE(m.CheckMOX(0));
-    EXPECT_FALSE(m.CheckMOX(1));
-    EXPECT_FALSE(m.CheckMOX(8));
-    EXPECT_EQ(host.familyList, kFRows) << "the list shows all seven rows all the same";
-    EXPECT_EQ(Program().FamilyListRows, kFRows);
-    EXPECT_EQ(chosen, dir.file("PLANEF.MOX"));
-    EXPECT_EQ(Program().RecentModels[0], chosen);
-    EXPECT_EQ(host.title, "Skylathe - PLANEF.MOX");
+        EXPECT_EQ(Called(host, kQuestion), row.asked);
+        EXPECT_EQ(host.messages.size(), row.asked ? 1u : 0u);
+        EXPECT_EQ(Slots(m), row.slots);
+        for (int16_t slot = 0; slot < kFileSlots; ++slot)
+            EXPECT_TRUE(!m.CheckMOX(slot) || m.Files[slot].Index == slot) << slot;
+        EXPECT_EQ(host.familyList, row.familyList);
+        EXPECT_EQ(Program().RecentModels[0], dir.file(row.recent));
+        EXPECT_EQ(host.title, "Skylathe - " + row.load) << "the title names the file as read";
 
-    // The same name again leaves the recent list and its menus alone.
-    host.calls.clear();
-    model again;
-    Load(again, "PLANEF.MOX", MessageAnswer::No);
-    EXPECT_EQ(std::count(host.calls.begin(), host.calls.end(), "recent menus"), 0);
+        // The recent entry opens the same files again, and leaves the recent menus alone.
+        host.calls.clear();
+        host.answers = {row.answer};
+        model again;
+        std::string recent = Program().RecentModels[0];
+        again.Load(recent);
+        EXPECT_EQ(Slots(again), row.slots);
+        EXPECT_FALSE(Called(host, "recent menus"));
+    }
 }
 
-TEST_F(ModelFamily, YesLoadsWhatExistsOfTheFamilyAndPassesOverTheRest) {
-    Write("TMOD1H.MOX", 20);
-    Write("TMOD1L.MOX", 22);
-    model m;
-    const std::string chosen = Load(m, "TMOD1H.MOX", MessageAnswer::Yes);
-
-    EXPECT_EQ(host.messages.size(), 1u) << "a missing connected file gives no message";
-    EXPECT_TRUE(m.CheckMOX(0));
-    EXPECT_FALSE(m.CheckMOX(1));
-    EXPECT_TRUE(m.CheckMOX(2));
-    EXPECT_FALSE(m.CheckMOX(3));
-    EXPECT_EQ(m.Files[2].Radius, 22);
-    EXPECT_EQ(m.Files[2].Index, 2);
-    EXPECT_EQ(m.Files[1].Index, 1);
-    EXPECT_EQ(host.familyList, kHRows);
-    EXPECT_EQ(chosen, dir.file("TMOD1H.MOX"));
-}
-
-TEST_F(ModelFamily, LowerCaseNamesFindTheirFamilyAndTheRecentListEndsInTheMainLetter) {
-    Write("planef.mox", 30);
-    Write("planea.mox", 31);
-    Write("planeP.MOX", 36);
-    model m;
-    const std::string chosen = Load(m, "planef.mox", MessageAnswer::Yes);
-
-    EXPECT_EQ(chosen, dir.file("planeF.MOX"));
-    EXPECT_EQ(Program().RecentModels[0], dir.file("planeF.MOX"));
-    EXPECT_EQ(m.Files[1].Radius, 31) << "the letter and extension match in any case";
-    EXPECT_EQ(m.Files[6].Radius, 36);
-    EXPECT_EQ(host.title, "Skylathe - planef.mox") << "the title names the file as read";
-
-    // The recent entry opens the same family again.
-    model again;
-    std::string recent = Program().RecentModels[0];
-    host.answers = {MessageAnswer::Yes};
-    again.Load(recent);
-    EXPECT_EQ(again.Files[0].Radius, 30);
-    EXPECT_EQ(again.Files[1].Radius, 31);
-}
-
-TEST_F(ModelFamily, OnlyTheFirstLetterAndTheFamilyLetterCount) {
-    Write("PANELF.MOX", 40);
-    Write("PANELA.MOX", 41);
-    model panel;
-    Load(panel, "PANELF.MOX", MessageAnswer::Yes);
-    EXPECT_EQ(host.messages.size(), 1u);
-    EXPECT_EQ(panel.Files[1].Radius, 41);
-
-    // Another letter of the family loads alone, as slot 0, and nothing is asked.
-    host.messages.clear();
-    model alone;
-    const std::string chosen = Load(alone, "PANELA.MOX", MessageAnswer::Yes);
-    EXPECT_TRUE(host.messages.empty());
-    EXPECT_EQ(alone.Files[0].Radius, 41);
-    EXPECT_FALSE(alone.CheckMOX(1));
-    EXPECT_EQ(chosen, dir.file("PANELA.MOX"));
-    EXPECT_EQ(host.familyList, kFRows);
-
-    // A name of neither family loads alone and leaves the list as it was.
-    Write("XWINGF.MOX", 50);
-    host.familyList.clear();
-    model other;
-    Load(other, "XWINGF.MOX", MessageAnswer::Yes);
-    EXPECT_TRUE(host.familyList.empty());
-    EXPECT_EQ(Program().FamilyListRows, kFRows);
-    EXPECT_EQ(other.Files[0].Radius, 50);
-}
-
-TEST_F(ModelFamily, OtherKindsAreNotedButNothingIsReadOrSaved) {
-    Write("PLANEF.MOX", 10);
-    const std::string moy = dir.file("SHIP.MOY");
-    model m;
-    std::string name = moy;
-    m.Load(name);
-    EXPECT_EQ(m.M_Type, kMoyLoaded);
-    EXPECT_TRUE(m.Files.empty());
-    EXPECT_EQ(Program().RecentModels[0], moy);
-    EXPECT_TRUE(host.title.empty()) << "no file, no title";
-    EXPECT_EQ(host.calls.back(), "toolbar Wing: WingOK");
-
-    m.Save("ONE");
-    m.Save("ALL");
-    m.Save(dir.file("OUT.MOX"));
-    EXPECT_EQ(FileNames(), std::vector<std::string>{"PLANEF.MOX"});
-    ASSERT_EQ(host.messages.size(), 3u);
-    EXPECT_EQ(host.messages[0],
-              "Only .mox models can be saved. This file was not read, so nothing was written.");
-
+TEST(ModelFamily, WhatWasNotReadIsNeverSaved) {
+    ResetProgramState();
+    TempDir dir;
+    RecordingHost host;
+    WriteSmallModel(dir.file("PLANEF.MOX"), 10);
     model three;
-    name = dir.file("ship.3ds");
+    std::string name = dir.file("ship.3ds");
     three.Load(name);
     EXPECT_EQ(three.M_Type, k3dsLoaded);
+    model moy;
+    name = dir.file("SHIP.MOY");
+    moy.Load(name);
+    EXPECT_EQ(moy.M_Type, kMoyLoaded);
+    EXPECT_TRUE(moy.Files.empty());
+    EXPECT_EQ(Program().RecentModels[0], dir.file("SHIP.MOY"));
+    EXPECT_TRUE(host.title.empty()) << "no file, no title";
+    moy.Save("ONE");
+    moy.Save("ALL");
+    moy.Save(dir.file("OUT.MOX"));
+    EXPECT_EQ(host.messages,
+              Names(3, "Only .mox models can be saved. This file was not read, so nothing was "
+                       "written."));
 
+    model gone;
+    name = dir.file("GONEF.MOX");
+    gone.Load(name);
+    EXPECT_FALSE(gone.CheckMOX(0));
+    gone.Save("ONE");
+    gone.Save("ALL");
     model nothing;
     nothing.Save("ONE");
-    EXPECT_EQ(host.messages.size(), 3u) << "with nothing open a save does nothing";
+    EXPECT_EQ(host.messages.size(), 3u);
+    EXPECT_EQ(FilesIn(dir.path()), Names{"PLANEF.MOX"});
 }
 
-TEST_F(ModelFamily, IncrementalSavesMoveEachFileOnFromItsOwnNumber) {
-    Write("PLANEF.MOX", 10);
-    Write("PLANEA.MOX", 11);
+TEST(ModelFamily, SavesNumberEachFileOnAndSaveAsKeepsTheRecordsName) {
+    ResetProgramState();
+    TempDir dir;
+    RecordingHost host;
+    WriteSmallModel(dir.file("PLANEF.MOX"), 10);
+    WriteSmallModel(dir.file("PLANEA.MOX"), 11);
+    host.answers = {MessageAnswer::Yes};
     model m;
-    Load(m, "PLANEF.MOX", MessageAnswer::Yes);
+    std::string chosen = dir.file("PLANEF.MOX");
+    m.Load(chosen);
 
     m.m_currmox = 1;
     m.Save("ONE");
@@ -188,65 +146,29 @@ TEST_F(ModelFamily, IncrementalSavesMoveEachFileOnFromItsOwnNumber) {
     m.m_currmox = 0;
     m.Files[0].Radius = 99;
     m.Save("ALL");
-    EXPECT_EQ(m.Files[0].Filename, dir.file("PLANEF_001.MOX"));
     EXPECT_EQ(m.Files[1].Filename, dir.file("PLANEA_002.MOX"));
-    EXPECT_EQ(FileNames(),
-              (std::vector<std::string>{"PLANEA.MOX", "PLANEA_001.MOX", "PLANEA_002.MOX",
-                                        "PLANEF.MOX", "PLANEF_001.MOX"}));
-    EXPECT_EQ(ReadRadius(dir.file("PLANEF.MOX")), 10) << "the old file stays";
-    EXPECT_EQ(ReadRadius(dir.file("PLANEF_001.MOX")), 99);
     EXPECT_EQ(host.title, "Skylathe - PLANEF_001.MOX");
 
-    // A numbered name has lost its family letter: it loads alone.
-    host.messages.clear();
-    model numbered;
-    Load(numbered, "PLANEF_001.MOX", MessageAnswer::Yes);
-    EXPECT_TRUE(host.messages.empty());
-}
+    // Save As writes the copy; the record keeps its name, so the next plain save goes on from it.
+    Program().RecentModels[0] = dir.file("OTHER.MOX");
+    host.calls.clear();
+    m.Save(dir.file("COPYF.MOX"));
+    EXPECT_EQ(ReadRadius(dir.file("COPYF.MOX")), 99);
+    EXPECT_EQ(Program().RecentModels[0], dir.file("PLANEF_001.MOX"));
+    EXPECT_EQ(Program().RecentModels[1], dir.file("OTHER.MOX"));
+    EXPECT_EQ(host.calls, (Names{"recent menus", "title: Skylathe - PLANEF_001.MOX"}));
+    m.Save("ONE");
+    EXPECT_EQ(m.Files[0].Filename, dir.file("PLANEF_002.MOX"));
 
-TEST_F(ModelFamily, WithoutIncrementalSavesTheFileIsWrittenOverItsOwnName) {
+    // Without incremental saves the file is written over its own name.
     Program().IncrementalSave = false;
-    Write("PLANEF.MOX", 10);
-    model m;
-    Load(m, "PLANEF.MOX", MessageAnswer::No);
     m.Files[0].Radius = 61;
     m.Save("ONE");
-    EXPECT_EQ(ReadRadius(dir.file("PLANEF.MOX")), 61);
-    m.Files[0].Radius = 62;
-    m.Save("ONE");
-    EXPECT_EQ(ReadRadius(dir.file("PLANEF.MOX")), 62);
-    EXPECT_EQ(FileNames(), std::vector<std::string>{"PLANEF.MOX"});
-    EXPECT_EQ(m.Files[0].Filename, dir.file("PLANEF.MOX"));
-}
-
-TEST_F(ModelFamily, SaveAsKeepsTheRecordsNameAndTitle) {
-    Write("PLANEF.MOX", 10);
-    model m;
-    Load(m, "PLANEF.MOX", MessageAnswer::No);
-    Program().RecentModels[0] = dir.file("OTHER.MOX");
-    const std::string copy = dir.file("COPYF.MOX");
-    host.calls.clear();
-    m.Save(copy);
-
-    EXPECT_EQ(ReadRadius(copy), 10);
-    EXPECT_EQ(m.Files[0].Filename, dir.file("PLANEF.MOX"));
-    EXPECT_EQ(Program().RecentModels[0], dir.file("PLANEF.MOX"));
-    EXPECT_EQ(Program().RecentModels[1], dir.file("OTHER.MOX"));
-    EXPECT_EQ(host.calls,
-              (std::vector<std::string>{"recent menus", "title: Skylathe - PLANEF.MOX"}));
-
-    // The next plain save goes to the old name again, numbered.
-    m.Save("ONE");
-    EXPECT_EQ(m.Files[0].Filename, dir.file("PLANEF_001.MOX"));
-    EXPECT_EQ(ReadRadius(dir.file("PLANEF_001.MOX")), 10);
-}
-
-TEST_F(ModelFamily, AFileThatWasNotFoundHasNoNameToSaveUnder) {
-    model m;
-    Load(m, "GONEF.MOX", MessageAnswer::No);
-    EXPECT_FALSE(m.CheckMOX(0));
-    EXPECT_EQ(host.title, "Skylathe - ");
-    m.Save("ONE");
-    m.Save("ALL");
-    EXPECT_TRUE(FileNames().empty());
+    EXPECT_EQ(m.Files[0].Filename, dir.file("PLANEF_002.MOX"));
+    EXPECT_EQ(ReadRadius(dir.file("PLANEF_002.MOX")), 61);
+    EXPECT_EQ(ReadRadius(dir.file("PLANEF_001.MOX")), 99);
+    EXPECT_EQ(ReadRadius(dir.file("PLANEF.MOX")), 10) << "the old file stays";
+    EXPECT_EQ(FilesIn(dir.path()),
+              (Names{"COPYF.MOX", "PLANEA.MOX", "PLANEA_001.MOX", "PLANEA_002.MOX", "PLANEF.MOX",
+                     "PLANEF_001.MOX", "PLANEF_002.MOX"}));
 }

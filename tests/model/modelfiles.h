@@ -1,11 +1,26 @@
-// Small model files for the family and project tests, told apart by their Radius.
+// Small model files for the family and project tests, told apart by their Radius; what a folder
+// holds after a save; the entries of a record as text, to compare them whole.
 #pragma once
 
+#include "filerecord.h"
+
 #include <cstdint>
+#include <filesystem>
 #include <string>
+#include <vector>
 
 // Writes a model of one node and one element holding a hardpoint to `path`.
 void WriteSmallModel(const std::string& path, int16_t radius);
 
 // The Radius stored in the model file at `path`, or -1 when there is no such file.
 int ReadRadius(const std::string& path);
+
+// The names of the entries of `folder`, sorted.
+std::vector<std::string> FilesIn(const std::filesystem::path& folder);
+
+// Numbers as "1,-2,3,".
+std::string Numbers(const std::vector<int>& values);
+
+// Every entry of every element, each as "Number COD,Flag, tType cCRN nNodeList xXMap yYMap
+// aAtt1,Att2,".
+std::vector<std::string> Entries(const FileRecord& record);

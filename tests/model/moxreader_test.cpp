@@ -1,5 +1,6 @@
 // The .mox reader: layout of the tables, the walk of the streams, hardpoints, damaged files and
 // the texture lookup.
+#include "modelfiles.h"
 #include "moxbuilder.h"
 #include "moxreader.h"
 #include "programstate.h"
@@ -12,11 +13,12 @@
 
 namespace {
 
+// Nodes n at Y n, Z 2n, X 3n, in body n % 3.
 std::vector<Node> CountingNodes(int count) {
     std::vector<Node> nodes;
     for (int n = 0; n < count; ++n)
         nodes.push_back(Node{static_cast<int16_t>(n), static_cast<int16_t>(2 * n),
-                             static_cast<int16_t>(3 * n), 0});
+                             static_cast<int16_t>(3 * n), static_cast<int16_t>(n % 3)});
     return nodes;
 }
 
@@ -26,9 +28,15 @@ FileRecord Read(const MoxBuilder& builder, int16_t index = 0) {
 
 } // namespace
 
-TEST(MoxReader, ReadsEveryKindAndNumbersTheEntries) {
+TEST(MoxReader, ReadsTheTablesAndEveryKindAndNumbersTheEntries) {
     MoxBuilder builder;
+    builder.radius = -1234;
+    builder.SetTexture("PLANE.TPC");
+    builder.parts = {Part{1, 2, 3, 4, 5}, Part{2, 7, -3, -4, -5}};
     builder.nodes = CountingNodes(8);
+    builder.planes = {{}, NRMRecord{16384, 1, 2, -70000, 12}};
+    builder.root = {0, 255};
+    builder.children = {{255, 7}, {1, 0}};
     builder.streams = {
         StreamBytes().End().bytes,
         StreamBytes()
@@ -38,9 +46,9 @@ TEST(MoxReader, ReadsEveryKindAndNumbersTheEntries) {
             .ColouredPoly({1, 2, 3}, 9)
             .GouraudPoly({{1, 11}, {2, 12}})
             .MappedPoly(6, {{1, 2, 3}}, 4, 5)
-            .MappedPoly(0, {}, 6, 7)
+            .MappedPoly(0, {}, 6, 7) // a first byte of 0 is read like a Textured Poly
             .Prefix(200, 9)
-            .MappedPoly(150, {{7, 8, 9}}, 1, 2)
+            .MappedPoly(150, {{7, 8, 9}}, 1, 2) // behind a Flag any byte is a Type
             .End()
             .bytes,
     };
@@ -53,65 +61,30 @@ TEST(MoxReader, ReadsEveryKindAndNumbersTheEntries) {
     EXPECT_EQ(record.Index, 3);
     EXPECT_EQ(record.Filename, "/models/PLANEF.MOX");
     EXPECT_EQ(Program().ProjectData.Type, 1);
-    const ElementList& empty = record.Elements[0];
-    ASSERT_EQ(empty.Count, 1);
-    EXPECT_EQ(empty.Items[0].Type, kTypeNull);
-    EXPECT_EQ(empty.Items[0].CRN, 0);
-    EXPECT_EQ(empty.Items[0].NextByte, 255);
-
-    const ElementList& list = record.Elements[1];
-    ASSERT_EQ(list.Count, 7);
-    for (int j = 0; j < list.Count; ++j)
-        EXPECT_EQ(list.Items[j].Number, 100 + j);
-    EXPECT_EQ(list.Items[0].Type, 1);
-    EXPECT_EQ(list.Items[0].CRN, 2);
-    EXPECT_EQ(list.Items[0].NodeList, (std::vector<uint8_t>{1, 2, 0}));
-    EXPECT_EQ(list.Items[0].Att1, 40);
-    EXPECT_EQ(list.Items[1].COD, 7);
-    EXPECT_EQ(list.Items[1].Flag, 3);
-    EXPECT_EQ(list.Items[1].Type, 2);
-    EXPECT_EQ(list.Items[1].Att1, 30);
-    EXPECT_EQ(list.Items[1].NodeList, (std::vector<uint8_t>{4, 0}));
-    EXPECT_EQ(list.Items[2].NodeList, (std::vector<uint8_t>{1, 2, 3, 0}));
-    EXPECT_EQ(list.Items[2].Att1, 9);
-    EXPECT_TRUE(list.Items[2].XMap.empty());
-    EXPECT_EQ(list.Items[3].XMap, (std::vector<uint8_t>{11, 12, 0}));
-    EXPECT_TRUE(list.Items[3].YMap.empty());
-    EXPECT_EQ(list.Items[4].Type, 6);
-    EXPECT_EQ(list.Items[4].YMap, (std::vector<uint8_t>{3, 0}));
-    EXPECT_EQ(list.Items[5].Type, 0) << "first byte 0 is read like a Textured Poly";
-    EXPECT_EQ(list.Items[5].Att2, 7);
-    EXPECT_EQ(list.Items[6].COD, 200);
-    EXPECT_EQ(list.Items[6].Type, 150) << "behind a Flag any byte is a Type";
-    EXPECT_EQ(list.Items[6].XMap, (std::vector<uint8_t>{8, 0}));
-}
-
-TEST(MoxReader, FindsTheTablesInTheirOrder) {
-    MoxBuilder builder;
-    builder.radius = -1234;
-    builder.SetTexture("PLANE.TPC");
-    builder.parts = {Part{1, 2, 3, 4, 5}, Part{2, 7, -3, -4, -5}};
-    builder.nodes = {Node{10, 20, 30, 1}};
-    builder.planes = {NRMRecord{16384, 0, 0, -70000, 12}};
-    builder.root = {0, 255};
-    builder.children = {{255, 7}};
-    builder.streams = {StreamBytes().Line(0, 0, 1).End().bytes};
-    const FileRecord record = Read(builder);
-
     EXPECT_EQ(record.Radius, -1234);
-    EXPECT_EQ(std::string(record.Texture.begin(), record.Texture.begin() + 9), "PLANE.TPC");
-    EXPECT_EQ(record.NumParts, 3);
-    EXPECT_EQ(record.Parts[1].Code, 2);
-    EXPECT_EQ(record.Parts[1].Num, 7);
-    EXPECT_EQ(record.Parts[1].X, -5);
-    EXPECT_EQ(record.NRM[0].Y, 16384);
-    EXPECT_EQ(record.NRM[0].D, -70000);
-    EXPECT_EQ(record.NRM[0].F, 12);
+    EXPECT_EQ(TextureFileName(record.Texture), "PLANE.PCX");
+    const Part& part = record.Parts[1];
+    EXPECT_EQ(Numbers({record.NumParts, part.Code, part.Num, part.Y, part.Z, part.X}),
+              "3,2,7,-3,-4,-5,");
+    const NRMRecord& plane = record.NRM[1];
+    EXPECT_EQ(Numbers({plane.Y, plane.Z, plane.X, plane.D, plane.F}), "16384,1,2,-70000,12,");
     EXPECT_EQ(record.Root, (ChildPair{0, 255}));
     EXPECT_EQ(record.PART[0], (ChildPair{255, 7}));
-    EXPECT_EQ(record.Nodes[0].X, 30);
-    EXPECT_EQ(record.Nodes[0].B, 1);
-    EXPECT_EQ(record.Elements[0].Items[0].Type, 1);
+    EXPECT_EQ(record.PART[1], (ChildPair{1, 0}));
+    const Node& node = record.Nodes[7];
+    EXPECT_EQ(Numbers({node.Y, node.Z, node.X, node.B}), "7,14,21,1,");
+
+    EXPECT_EQ(Entries(record), (std::vector<std::string>{
+                                   "0 0,0, t255 c0 n x y a0,0,",
+                                   "100 0,0, t1 c2 n1,2,0, x y a40,0,",
+                                   "101 7,3, t2 c1 n4,0, x y a30,0,",
+                                   "102 0,0, t3 c3 n1,2,3,0, x y a9,0,",
+                                   "103 0,0, t4 c2 n1,2,0, x11,12,0, y a0,0,",
+                                   "104 0,0, t6 c1 n1,0, x2,0, y3,0, a4,5,",
+                                   "105 0,0, t0 c0 n0, x0, y0, a6,7,",
+                                   "106 200,9, t150 c1 n7,0, x8,0, y9,0, a1,2,",
+                               }));
+    EXPECT_EQ(record.Elements[0].Items[0].NextByte, 255);
 }
 
 TEST(MoxReader, HardpointsFillTheirSlotsTheLaterWinning) {

@@ -1,6 +1,7 @@
 // The .mox writer: the bytes it writes, how it packs the streams, and how it keeps an old file
 // whole when a save cannot be completed.
 #include "elementkind.h"
+#include "modelfiles.h"
 #include "moxbuilder.h"
 #include "moxreader.h"
 #include "moxwriter.h"
@@ -29,14 +30,6 @@ std::vector<uint8_t> StreamOfLength(int length) {
         left -= corners + 3;
     }
     return stream.End().bytes;
-}
-
-std::vector<std::string> FilesIn(const std::filesystem::path& folder) {
-    std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(folder))
-        names.push_back(entry.path().filename().string());
-    std::sort(names.begin(), names.end());
-    return names;
 }
 
 } // namespace
@@ -69,43 +62,31 @@ TEST(MoxWriter, WritesTheTablesThenTheStreamsBackToBack) {
 }
 
 TEST(MoxWriter, LeavesOutWhatTheReaderAddedForItself) {
-    FileRecord record = ReadBack([] {
-        MoxBuilder builder;
-        builder.nodes = {Node{}};
-        builder.streams = {StreamBytes().Line(0, 0, 1).ColouredPoly({0}, 2).End().bytes,
-                           StreamBytes().End().bytes};
-        return builder.Build();
-    }());
-    ElementList& list = record.Elements[0];
-    // A NULL entry in the middle, a Flag without a display code, a kind no table names.
-    list.Items[0].Type = kTypeNull;
-    list.Items[1].Flag = 3;
-    list.Items[1].Type = 0;
-    list.Items[1].XMap = {9, 0};
-    list.Items[1].YMap = {8, 0};
-    list.Items[1].Att2 = 5;
+    MoxBuilder builder;
+    builder.nodes = {Node{}};
+    builder.streams = {StreamBytes().Line(0, 0, 1).ColouredPoly({0}, 2).End().bytes,
+                       StreamBytes().End().bytes};
+    FileRecord record = ReadBack(builder.Build());
+    // A NULL entry in the middle, a Flag without a display code, a kind no table names, and an
+    // empty list, which is written as FF.
+    record.Elements[0].Items[0].Type = kTypeNull;
+    Piggyback& item = record.Elements[0].Items[1];
+    item.Flag = 3;
+    item.Type = 0;
+    item.XMap = {9, 0};
+    item.YMap = {8, 0};
+    item.Att2 = 5;
     record.Elements[1].Count = 0;
-
-    const FileRecord again = ReadBack(SavedBytes(record));
-    ASSERT_EQ(again.Elements[0].Count, 1);
-    const Piggyback& item = again.Elements[0].Items[0];
-    EXPECT_EQ(item.Type, 0);
-    EXPECT_EQ(item.Flag, 0);
-    EXPECT_EQ(item.XMap, (std::vector<uint8_t>{9, 0}));
-    EXPECT_EQ(item.YMap, (std::vector<uint8_t>{8, 0}));
-    EXPECT_EQ(item.Att1, 2);
-    EXPECT_EQ(item.Att2, 5);
-    EXPECT_EQ(again.Elements[1].Count, 1);
-    EXPECT_EQ(again.Elements[1].Items[0].Type, kTypeNull) << "an empty list is written as FF";
+    EXPECT_EQ(Entries(ReadBack(SavedBytes(record))),
+              (std::vector<std::string>{"0 0,0, t0 c1 n0,0, x9,0, y8,0, a2,5,",
+                                        "100 0,0, t255 c0 n x y a0,0,"}));
 
     // Behind a display code any Type value reads back as it was.
-    list.Items[1].COD = 150;
-    list.Items[1].Type = 77;
-    EXPECT_EQ(ReadBack(SavedBytes(record)).Elements[0].Items[0].Type, 77);
-    EXPECT_EQ(ReadBack(SavedBytes(record)).Elements[0].Items[0].Flag, 3);
-
-    list.Items[1].Type = kTypeNull;
-    EXPECT_EQ(ReadBack(SavedBytes(record)).Elements[0].Items[0].Type, kTypeNull);
+    item.COD = 150;
+    item.Type = 77;
+    EXPECT_EQ(Entries(ReadBack(SavedBytes(record)))[0], "0 150,3, t77 c1 n0,0, x9,0, y8,0, a2,5,");
+    item.Type = kTypeNull;
+    EXPECT_EQ(Entries(ReadBack(SavedBytes(record)))[0], "0 0,0, t255 c0 n x y a0,0,");
 }
 
 TEST(MoxWriter, CountsThatOutrunTheArraysAreFilledWithZeros) {
@@ -118,18 +99,14 @@ TEST(MoxWriter, CountsThatOutrunTheArraysAreFilledWithZeros) {
     item.Type = kTypeTexturedPoly;
     item.CRN = 4;
     item.NodeList = {1};
-    record.Elements.resize(1);
-    record.Elements[0].Items = {item};
-    record.Elements[0].Count = 9;
+    record.Elements = {ElementList{{item}, 9}};
 
     const FileRecord again = ReadBack(SavedBytes(record));
-    EXPECT_EQ(again.NumParts, 3);
-    EXPECT_EQ(again.Parts[1].X, 0);
-    EXPECT_EQ(again.Nodes[0].X, 5);
-    EXPECT_EQ(again.Nodes[1].X, 0);
-    ASSERT_EQ(again.Elements[0].Count, 1);
-    EXPECT_EQ(again.Elements[0].Items[0].NodeList, (std::vector<uint8_t>{1, 0, 0, 0, 0}));
-    EXPECT_EQ(again.Elements[1].Items[0].Type, kTypeNull);
+    EXPECT_EQ(Numbers({again.NumParts, again.Parts[1].X, again.Nodes[0].X, again.Nodes[1].X}),
+              "3,0,5,0,");
+    EXPECT_EQ(Entries(again),
+              (std::vector<std::string>{"0 0,0, t5 c4 n1,0,0,0,0, x0,0,0,0,0, y0,0,0,0,0, a0,0,",
+                                        "100 0,0, t255 c0 n x y a0,0,"}));
 }
 
 TEST(MoxWriter, StreamsMustStartWithinTheOffsetRange) {
