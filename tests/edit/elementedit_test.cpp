@@ -58,55 +58,36 @@ std::vector<std::string> Messages(const char* message) {
 } // namespace
 
 TEST(ElementEdit, CornerOperationsKeepTheListsInStepWithinTheirLimits) {
+    using Operation = std::function<void(model&)>;
+    const auto remove = [](int16_t k) -> Operation {
+        return [k](model& m) { DeleteNodeFromElement(m, k); };
+    };
+    const auto swap = [](int16_t a, int16_t b) -> Operation {
+        return [a, b](model& m) { SwapNodes(m, a, b); };
+    };
+    const Operation add = [](model& m) { AddNodeToElement(m); };
+    const char* noCorner = "This piggyback has no corner to delete.";
+    const char* full =
+        "This piggyback already has 255 corners, the most one can hold. No corner was added.";
     struct Row {
-        const char* what;
         int16_t number;
-        std::function<void(model&)> operation;
+        Operation operation;
         std::vector<uint8_t> nodes, xMap;
         const char* message;
     };
+    // The piggyback, the operation, its corners' nodes and X maps afterwards, the message.
     const Row rows[] = {
-        {"delete of a triangle's corner",
-         0,
-         [](model& m) { DeleteNodeFromElement(m, 0); },
-         {0, 1, 2},
-         {},
-         kPints},
-        {"delete of a quad's corner",
-         1,
-         [](model& m) { DeleteNodeFromElement(m, 1); },
-         {0, 2, 3},
-         {10, 12, 13},
-         ""},
-        {"delete past the list",
-         1,
-         [](model& m) { DeleteNodeFromElement(m, 4); },
-         {0, 1, 2, 3},
-         {10, 11, 12, 13},
-         ""},
-        {"delete on a NULL entry",
-         100,
-         [](model& m) { DeleteNodeFromElement(m, 0); },
-         {},
-         {},
-         "This piggyback has no corner to delete."},
-        {"add", 1, [](model& m) { AddNodeToElement(m); }, {0, 1, 2, 3, 0}, {10, 11, 12, 13, 0}, ""},
-        {"add to 255 corners",
-         300,
-         [](model& m) { AddNodeToElement(m); },
-         std::vector<uint8_t>(255, 1),
-         {},
-         "This piggyback already has 255 corners, the most one can hold. No corner was added."},
-        {"swap", 1, [](model& m) { SwapNodes(m, 3, 0); }, {3, 1, 2, 0}, {13, 11, 12, 10}, ""},
-        {"swap past the list",
-         1,
-         [](model& m) { SwapNodes(m, 3, 4); },
-         {0, 1, 2, 3},
-         {10, 11, 12, 13},
-         ""},
+        {0, remove(0), {0, 1, 2}, {}, kPints}, // a triangle keeps its three corners
+        {1, remove(1), {0, 2, 3}, {10, 12, 13}, ""},
+        {1, remove(4), {0, 1, 2, 3}, {10, 11, 12, 13}, ""},
+        {100, remove(0), {}, {}, noCorner},
+        {1, add, {0, 1, 2, 3, 0}, {10, 11, 12, 13, 0}, ""},
+        {300, add, std::vector<uint8_t>(255, 1), {}, full},
+        {1, swap(3, 0), {3, 1, 2, 0}, {13, 11, 12, 10}, ""},
+        {1, swap(3, 4), {0, 1, 2, 3}, {10, 11, 12, 13}, ""},
     };
     for (const Row& row : rows) {
-        SCOPED_TRACE(row.what);
+        SCOPED_TRACE("row " + std::to_string(&row - rows));
         RecordingHost host;
         model m = LoadedModel(Elements());
         m.m_currelem = row.number;

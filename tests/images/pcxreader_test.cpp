@@ -23,9 +23,12 @@ constexpr std::size_t kYMaxAt = 10;
 constexpr std::size_t kPlanesAt = 65;
 constexpr std::size_t kBytesPerLineAt = 66;
 
-void PutInt16(Bytes& bytes, std::size_t at, int value) {
-    bytes[at] = static_cast<uint8_t>(value & 0xFF);
-    bytes[at + 1] = static_cast<uint8_t>((value >> 8) & 0xFF);
+// `file` with the little-endian field of `width` bytes at `at` set to `value`.
+Bytes Changed(Bytes file, std::size_t at, int value, int width = 2) {
+    file[at] = static_cast<uint8_t>(value & 0xFF);
+    if (width == 2)
+        file[at + 1] = static_cast<uint8_t>((value >> 8) & 0xFF);
+    return file;
 }
 
 Bytes Joined(std::initializer_list<Bytes> parts) {
@@ -51,8 +54,8 @@ Bytes PaletteFile(int width, int height, int bytesPerLine, const Bytes& data) {
     options.bytesPerLine = bytesPerLine;
     const Bytes written = EncodePcx8(
         width, height, Bytes(static_cast<std::size_t>(width * height), 0), TestPalette(), options);
-    Bytes header(written.begin(), written.begin() + kPcxHeaderBytes);
-    PutInt16(header, kBytesPerLineAt, bytesPerLine);
+    const Bytes header = Changed(Bytes(written.begin(), written.begin() + kPcxHeaderBytes),
+                                 kBytesPerLineAt, bytesPerLine);
     return Joined({header, data, Bytes(written.end() - kPcxPaletteBlockBytes, written.end())});
 }
 
@@ -112,35 +115,24 @@ TEST(PcxReader, ReadsTrueColourFilesWhereverTheRunsEnd) {
 
 TEST(PcxReader, CutsA256ColourRunThatCrossesTheEndOfARow) {
     struct Case {
-        const char* what;
         int width, height, bytesPerLine;
         Bytes data;
         Bytes indices;
     };
     const Case cases[] = {
-        {"the rest of the run is dropped, the next row starts behind it",
-         4,
-         2,
-         4,
-         {0xC6, 5, 1, 2, 3, 4},
-         {5, 5, 5, 5, 1, 2, 3, 4}},
-        {"a run starting in the padding writes nothing and x stays",
-         3,
-         1,
-         4,
-         {1, 0xC5, 2, 0xC2, 9, 4},
-         {1, 2, 2, 4}},
-        {"a run that ends inside the row fills the padding", 3, 1, 4, {0xC4, 6}, {6, 6, 6, 6}},
-        {"a run of length zero writes nothing", 2, 1, 2, {0xC0, 9, 7, 8}, {7, 8}},
-        {"a header wider than its rows cuts at the row end",
-         6,
-         2,
-         2,
-         {0xC5, 3, 0xC1, 4, 1},
-         {3, 3, 4, 1}},
+        // The rest of the run is dropped, the next row starts behind it.
+        {4, 2, 4, {0xC6, 5, 1, 2, 3, 4}, {5, 5, 5, 5, 1, 2, 3, 4}},
+        // A run starting in the padding writes nothing and x stays.
+        {3, 1, 4, {1, 0xC5, 2, 0xC2, 9, 4}, {1, 2, 2, 4}},
+        // A run that ends inside the row fills the padding.
+        {3, 1, 4, {0xC4, 6}, {6, 6, 6, 6}},
+        // A run of length zero writes nothing.
+        {2, 1, 2, {0xC0, 9, 7, 8}, {7, 8}},
+        // A header wider than its rows cuts at the row end.
+        {6, 2, 2, {0xC5, 3, 0xC1, 4, 1}, {3, 3, 4, 1}},
     };
     for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
+        SCOPED_TRACE("case " + std::to_string(&c - cases));
         const PcxImage picture = Picture(PaletteFile(c.width, c.height, c.bytesPerLine, c.data));
         EXPECT_EQ(picture.width, c.bytesPerLine);
         EXPECT_EQ(picture.rgb, PaletteColours(c.indices, TestPalette()));
@@ -167,39 +159,50 @@ TEST(PcxReader, TakesThePaletteFromTheEndOfTheFile) {
 TEST(PcxReader, RefusesFilesItCannotShowWithTheirMessages) {
     TempDir folder;
     RecordingHost host;
-    const Bytes palette8 = EncodePcx8(3, 3, TestIndices(3, 3, 1), TestPalette());
-    auto load = [&](const Bytes& bytes) {
-        const std::string path = folder.file("texture.pcx");
-        WriteFileBytes(path, bytes);
-        host.calls.clear();
-        return LoadPCX(path);
-    };
     const std::string path = folder.file("texture.pcx");
-
-    for (const uint8_t depth : {1, 4, 24}) {
-        Bytes file = palette8;
-        file[kBitsPerPixelAt] = depth;
-        EXPECT_FALSE(load(file));
-        EXPECT_EQ(host.calls,
-                  (std::vector<std::string>{"message plain: Sorry, can't load " + path + "!"}));
-    }
-
+    const Bytes palette8 = EncodePcx8(3, 3, TestIndices(3, 3, 1), TestPalette());
+    const Bytes trueColour = EncodePcx24(3, 3, TestRgb(3, 3, 1));
+    const std::string sorry = "message plain: Sorry, can't load " + path + "!";
     const std::string noPalette = "message exclamation: The PCX that was passed didn't have a "
                                   "256 colour palette! Can't read it!";
+    struct Row {
+        Bytes file;
+        PcxOutcome outcome;
+        std::string call; // what the user is shown, if anything
+    };
+    std::vector<Row> rows;
     Bytes unmarked = palette8;
     unmarked[unmarked.size() - kPcxPaletteBlockBytes] = 0;
-    const Bytes tooShort(palette8.begin(), palette8.begin() + 700);
-    for (const Bytes& file : {unmarked, tooShort}) {
-        EXPECT_FALSE(load(file));
-        EXPECT_EQ(host.calls, std::vector<std::string>{noPalette});
+    rows.push_back({unmarked, PcxOutcome::NoPalette, noPalette});
+    rows.push_back(
+        {Bytes(palette8.begin(), palette8.begin() + 700), PcxOutcome::NoPalette, noPalette});
+    for (const Bytes& file : {palette8, trueColour}) {
+        for (const int depth : {1, 4, 24})
+            rows.push_back(
+                {Changed(file, kBitsPerPixelAt, depth, 1), PcxOutcome::WrongDepth, sorry});
+        // Other plane counts and sizes that are not positive give no picture and no message.
+        for (const int planes : {0, 2, 4})
+            rows.push_back(
+                {Changed(file, kPlanesAt, planes, 1), PcxOutcome::UnsupportedPlanes, ""});
+        rows.push_back({Changed(file, kXMaxAt, -5), PcxOutcome::BadSize, ""});
+        rows.push_back({Changed(file, kYMinAt, 100), PcxOutcome::BadSize, ""});
+        rows.push_back({Changed(file, kBytesPerLineAt, 0), PcxOutcome::BadSize, ""});
+        rows.push_back({Changed(file, kBytesPerLineAt, -2), PcxOutcome::BadSize, ""});
+        rows.push_back({Changed(file, kYMinAt, -32768), PcxOutcome::Picture, ""});
+        // Nor does one that would need more than 256 MB.
+        Bytes huge = Changed(Changed(file, kXMinAt, -32768), kXMaxAt, 32767);
+        huge = Changed(Changed(Changed(huge, kBytesPerLineAt, 32767), kYMinAt, -32768), kYMaxAt,
+                       32767);
+        rows.push_back({huge, PcxOutcome::TooLarge, ""});
     }
-
-    // Other plane counts give no picture and no message, whatever the file holds.
-    for (const uint8_t planes : {0, 2, 4}) {
-        Bytes file = palette8;
-        file[kPlanesAt] = planes;
-        EXPECT_FALSE(load(file));
-        EXPECT_TRUE(host.calls.empty());
+    for (const Row& row : rows) {
+        SCOPED_TRACE("row " + std::to_string(&row - rows.data()));
+        EXPECT_EQ(DecodePcx(row.file, path).outcome, row.outcome);
+        WriteFileBytes(path, row.file);
+        host.calls.clear();
+        EXPECT_EQ(LoadPCX(path).has_value(), row.outcome == PcxOutcome::Picture);
+        EXPECT_EQ(host.calls, row.call.empty() ? std::vector<std::string>{}
+                                               : std::vector<std::string>{row.call});
     }
     host.calls.clear();
     EXPECT_FALSE(LoadPCX(folder.file("missing.pcx")));
@@ -211,9 +214,7 @@ TEST(PcxReader, SurvivesShortAndLyingFiles) {
     const Bytes trueColour = EncodePcx24(21, 9, TestRgb(21, 9, 2));
 
     // A header taller than its data: the rows past the data are black.
-    Bytes tall = trueColour;
-    PutInt16(tall, kYMaxAt, 19);
-    const PcxImage tallPicture = Picture(tall);
+    const PcxImage tallPicture = Picture(Changed(trueColour, kYMaxAt, 19));
     ASSERT_EQ(tallPicture.height, 20);
     EXPECT_EQ(Bytes(tallPicture.rgb.begin(), tallPicture.rgb.begin() + 21 * 3 * 9),
               TestRgb(21, 9, 2));
@@ -221,9 +222,7 @@ TEST(PcxReader, SurvivesShortAndLyingFiles) {
                             [](uint8_t byte) { return byte == 0; }));
     // In a 256-colour file the palette block is read as pixels first (its bytes of 0xC0 and
     // above as runs), then zeros: index 0.
-    Bytes tall8 = palette8;
-    PutInt16(tall8, kYMaxAt, 2999);
-    const PcxImage tall8Picture = Picture(tall8);
+    const PcxImage tall8Picture = Picture(Changed(palette8, kYMaxAt, 2999));
     ASSERT_EQ(tall8Picture.height, 3000);
     const Bytes rows = Columns(tall8Picture, 21);
     EXPECT_EQ(Bytes(rows.begin(), rows.begin() + 21 * 3 * 9),
@@ -232,39 +231,8 @@ TEST(PcxReader, SurvivesShortAndLyingFiles) {
     EXPECT_TRUE(std::equal(blank.begin(), blank.end(), tall8Picture.rgb.end() - 22 * 3 * 1000));
 
     // Widths wider than the bytes per line read on into the next plane row, or are cut.
-    Bytes wide = trueColour;
-    PutInt16(wide, kXMaxAt, 200);
-    EXPECT_EQ(Picture(wide).width, 201);
-    Bytes wide8 = palette8;
-    PutInt16(wide8, kXMaxAt, 200);
-    EXPECT_EQ(Picture(wide8).width, 22);
-
-    // Sizes that are not positive, or would need more than 256 MB, give no picture and no message.
-    struct Lie {
-        std::size_t at;
-        int value;
-        PcxOutcome outcome;
-    };
-    for (const Bytes* file : {&palette8, &trueColour}) {
-        for (const Lie lie :
-             {Lie{kXMaxAt, -5, PcxOutcome::BadSize}, Lie{kYMinAt, 100, PcxOutcome::BadSize},
-              Lie{kBytesPerLineAt, 0, PcxOutcome::BadSize},
-              Lie{kBytesPerLineAt, -2, PcxOutcome::BadSize},
-              Lie{kYMinAt, -32768, PcxOutcome::Picture}}) {
-            Bytes lying = *file;
-            PutInt16(lying, lie.at, lie.value);
-            const PcxResult result = DecodePcx(lying, "lying.pcx");
-            EXPECT_EQ(result.outcome, lie.outcome);
-            EXPECT_TRUE(result.message.empty());
-        }
-        Bytes huge = *file;
-        PutInt16(huge, kXMinAt, -32768);
-        PutInt16(huge, kXMaxAt, 32767);
-        PutInt16(huge, kBytesPerLineAt, 32767);
-        PutInt16(huge, kYMinAt, -32768);
-        PutInt16(huge, kYMaxAt, 32767);
-        EXPECT_EQ(DecodePcx(huge, "huge.pcx").outcome, PcxOutcome::TooLarge);
-    }
+    EXPECT_EQ(Picture(Changed(trueColour, kXMaxAt, 200)).width, 201);
+    EXPECT_EQ(Picture(Changed(palette8, kXMaxAt, 200)).width, 22);
 }
 
 } // namespace

@@ -12,34 +12,23 @@ using Bytes = std::vector<uint8_t>;
 
 constexpr std::size_t kHeaderBytes = 128;
 
-int Int16At(const Bytes& bytes, std::size_t at) {
-    return static_cast<int16_t>(bytes[at] | (bytes[at + 1] << 8));
-}
-
 Bytes Data(const Bytes& file, std::size_t trailer) {
     return Bytes(file.begin() + kHeaderBytes, file.end() - static_cast<std::ptrdiff_t>(trailer));
 }
 
 TEST(PcxWriter, WritesTheHeaderAndPaletteOfA256ColourFile) {
+    // Maker, version, run encoding, bits per pixel, the window 0,0 to 4,2; one plane, six bytes
+    // per line; the palette behind its marker ends the file.
     const Bytes file = EncodePcx8(5, 3, Bytes(15, 1), TestPalette());
     ASSERT_GT(file.size(), kHeaderBytes + 769);
-    EXPECT_EQ(file[0], 10);
-    EXPECT_EQ(file[1], 5);
-    EXPECT_EQ(file[2], 1);
-    EXPECT_EQ(file[3], 8);
-    EXPECT_EQ(Int16At(file, 4), 0);
-    EXPECT_EQ(Int16At(file, 6), 0);
-    EXPECT_EQ(Int16At(file, 8), 4);
-    EXPECT_EQ(Int16At(file, 10), 2);
-    EXPECT_EQ(file[65], 1);
-    EXPECT_EQ(Int16At(file, 66), 6);
+    EXPECT_EQ(Bytes(file.begin(), file.begin() + 12), (Bytes{10, 5, 1, 8, 0, 0, 0, 0, 4, 0, 2, 0}));
+    EXPECT_EQ(Bytes(file.begin() + 65, file.begin() + 68), (Bytes{1, 6, 0}));
     EXPECT_EQ(file[file.size() - 769], 12);
     const PcxPalette palette = TestPalette();
     EXPECT_TRUE(std::equal(palette.begin(), palette.end(), file.end() - 768));
 
     const Bytes trueColour = EncodePcx24(5, 3, Bytes(45, 1));
-    EXPECT_EQ(trueColour[65], 3);
-    EXPECT_EQ(Int16At(trueColour, 66), 6);
+    EXPECT_EQ(Bytes(trueColour.begin() + 65, trueColour.begin() + 68), (Bytes{3, 6, 0}));
 }
 
 TEST(PcxWriter, EncodesRunsPerPlaneRowOrAcrossLines) {
