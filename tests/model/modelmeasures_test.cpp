@@ -31,15 +31,23 @@ Part Pivot(int16_t y, int16_t z, int16_t x) {
     return part;
 }
 
+// GetSpan, GetLength and GetHeight of `m` for the results 0, 1 and 2: the smallest, the largest
+// and their difference.
+std::string Measures(const model& m, bool all) {
+    std::string text;
+    for (int result = 0; result < 3; ++result)
+        text += std::to_string(m.GetSpan(all, result)) + "," +
+                std::to_string(m.GetLength(all, result)) + "," +
+                std::to_string(m.GetHeight(all, result)) + " ";
+    return text;
+}
+
 } // namespace
 
 TEST(ModelMeasures, RangeAlwaysHoldsTheOrigin) {
     model m = FamilyModel();
     m.Files[0] = FileWithNodes({{10, 20, 30, 0}, {15, 25, 50, 0}});
-    EXPECT_EQ(m.GetLength(true, 0), 0) << "all X positive: the smallest is still 0";
-    EXPECT_EQ(m.GetLength(true, 1), 50);
-    EXPECT_EQ(m.GetLength(true, 2), 50);
-    EXPECT_EQ(m.GetSpan(true, 1), 15);
+    EXPECT_EQ(Measures(m, true), "0,0,0 15,50,25 15,50,25 ");
     EXPECT_EQ(m.GetHeight(true, 7), 25) << "any other result is the difference";
 }
 
@@ -51,35 +59,23 @@ TEST(ModelMeasures, PartsAndHardpointsPlaceTheNodes) {
     m.Files[0].HP[3] = Node{1000, -500, 300, 0};
     m.Files[3] = FileWithNodes({{1, 2, 3, 0}});
     m.Files[3].HP[3] = Node{9, 9, 9, 0}; // a connected file's own hardpoints do not count
-    EXPECT_EQ(m.GetLength(true, 1), 303);
-    EXPECT_EQ(m.GetSpan(true, 0), -40);
-    EXPECT_EQ(m.GetSpan(true, 1), 1001);
-    EXPECT_EQ(m.GetHeight(true, 0), -498);
+    EXPECT_EQ(Measures(m, true), "-40,0,-498 1001,303,7 1041,303,505 ");
 
     // One file alone, still displaced by the main file's hardpoint for its slot.
     m.m_currmox = 3;
-    EXPECT_EQ(m.GetLength(false, 0), 0);
-    EXPECT_EQ(m.GetLength(false, 1), 303);
-    EXPECT_EQ(m.GetSpan(false, 2), 1001);
-    EXPECT_EQ(m.GetHeight(false, 0), -498);
-    EXPECT_EQ(m.GetHeight(false, 1), 0);
+    EXPECT_EQ(Measures(m, false), "0,0,-498 1001,303,0 1001,303,498 ");
 }
 
 TEST(ModelMeasures, NothingOpenMeasuresZero) {
     model empty;
     model moy;
     moy.M_Type = kMoyLoaded;
-    for (const model* m : {&empty, &moy}) {
-        for (int result = 0; result < 3; ++result) {
-            EXPECT_EQ(m->GetSpan(true, result), 0);
-            EXPECT_EQ(m->GetLength(false, result), 0);
-            EXPECT_EQ(m->GetHeight(true, result), 0);
-        }
-    }
     model family = FamilyModel();
     family.m_currmox = 9; // no such file: nothing to measure
     family.Files[0] = FileWithNodes({{0, 0, 70, 0}});
-    EXPECT_EQ(family.GetLength(false, 1), 0);
+    for (const model* m : {&empty, &moy, &family})
+        EXPECT_EQ(Measures(*m, false), "0,0,0 0,0,0 0,0,0 ");
+    EXPECT_EQ(Measures(empty, true), "0,0,0 0,0,0 0,0,0 ");
 }
 
 TEST(ModelMeasures, NodesOfNoPartAreLeftOutAndSumsStopAtTheLimits) {
