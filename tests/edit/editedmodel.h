@@ -8,6 +8,12 @@
 #include <cstdint>
 #include <vector>
 
+// Nodes 0 to 5 named by corners, node 6 unused. Element 0: a coloured triangle (0), a Gouraud
+// quad (1), a textured pentagon (2). Element 1: no polygon, one NULL entry (100). Element 2: a
+// wing-damage textured triangle (200), a line (201), a hardpoint (202). Element 3: a polygon of
+// 255 corners (300).
+MoxBuilder EditedElements();
+
 // A .mox family whose main file holds `bytes`, nothing selected.
 model LoadedModel(const std::vector<uint8_t>& bytes);
 inline model LoadedModel(const MoxBuilder& builder) {

@@ -15,34 +15,6 @@ namespace {
 constexpr const char* kPints =
     "Cannot Delete Any More Pints.  Hmm. Pints.  Beer.  No wonder this thing never gets finished!";
 
-// Element 0: a coloured triangle (0), a Gouraud quad (1), a textured pentagon (2). Element 1: no
-// polygon, one NULL entry (100). Element 2: a wing-damage textured triangle (200), a line (201), a
-// hardpoint (202). Element 3: a polygon of 255 corners (300).
-MoxBuilder Elements() {
-    MoxBuilder b;
-    for (int16_t n = 0; n < 6; ++n)
-        b.nodes.push_back(Node{int16_t(n), int16_t(2 * n), int16_t(100 * n), 0});
-    b.streams = {StreamBytes()
-                     .ColouredPoly({0, 1, 2}, 7)
-                     .GouraudPoly({{0, 10}, {1, 11}, {2, 12}, {3, 13}})
-                     .MappedPoly(5, {{0, 1, 2}, {1, 3, 4}, {2, 5, 6}, {3, 7, 8}, {4, 9, 9}}, 1, 2)
-                     .End()
-                     .bytes,
-                 StreamBytes().End().bytes,
-                 StreamBytes()
-                     .Prefix(148, 1)
-                     .MappedPoly(5, {{3, 1, 1}, {4, 2, 2}, {5, 3, 3}}, 4, 5)
-                     .Line(4, 5, 3)
-                     .Hardpoint(25, 1)
-                     .End()
-                     .bytes,
-                 StreamBytes().ColouredPoly(std::vector<uint8_t>(255, 1), 7).End().bytes};
-    b.planes = {NRMRecord{1, 2, 3, 4, 5}, {}, NRMRecord{16384, 0, 0, -9, 1}, {}};
-    b.root = {0, 255};
-    b.children = {{1, 2}, {255, 255}, {3, 255}, {255, 255}};
-    return b;
-}
-
 const Piggyback& At(const model& m, int16_t number) {
     return *FindPiggyback(m.Files[0], number);
 }
@@ -89,7 +61,7 @@ TEST(ElementEdit, CornerOperationsKeepTheListsInStepWithinTheirLimits) {
     for (const Row& row : rows) {
         SCOPED_TRACE("row " + std::to_string(&row - rows));
         RecordingHost host;
-        model m = LoadedModel(Elements());
+        model m = LoadedModel(EditedElements());
         m.m_currelem = row.number;
         row.operation(m);
         const Piggyback& item = At(m, row.number);
@@ -103,7 +75,7 @@ TEST(ElementEdit, CornerOperationsKeepTheListsInStepWithinTheirLimits) {
 
 TEST(ElementEdit, NothingSelectedChangesNothing) {
     RecordingHost host;
-    model m = LoadedModel(Elements());
+    model m = LoadedModel(EditedElements());
     const std::vector<uint8_t> before = SavedBytes(m.Files[0]);
     AddNodeToElement(m);
     DeleteNodeFromElement(m, 0);
@@ -155,7 +127,7 @@ TEST(ElementEdit, DeleteElementRenumbersEveryRootAndPartByte) {
 
 TEST(ElementEdit, DeletingTheLastOneMovesTheSelectionBack) {
     RecordingHost host;
-    model m = LoadedModel(Elements());
+    model m = LoadedModel(EditedElements());
     host.spins["upd_3_elem"] = 2;
     m.m_currelem = 200;
     Delete_Piggyback(m, m.m_currelem);
@@ -177,7 +149,7 @@ TEST(ElementEdit, DeletingTheLastOneMovesTheSelectionBack) {
 
 TEST(ElementEdit, ChangeTypeFitsTheCornersAndKeepsTheirValues) {
     RecordingHost host;
-    model m = LoadedModel(Elements());
+    model m = LoadedModel(EditedElements());
     m.m_currelem = 2;
     ChangeType(m, 0);
     EXPECT_EQ(ReadBack(m).Elements[0].Items[2].CRN, 2);
@@ -200,7 +172,7 @@ TEST(ElementEdit, ChangeTypeFitsTheCornersAndKeepsTheirValues) {
 
 TEST(ElementEdit, DuplicatesGoLastWithoutDisplayCodeAndStopAtTheNumberLimits) {
     RecordingHost host;
-    model m = LoadedModel(Elements());
+    model m = LoadedModel(EditedElements());
     const std::vector<uint8_t> before = SavedBytes(m.Files[0]);
     Duplicate_Element(m, true, 100);
     EXPECT_EQ(m.Files[0].Elements[1].Count, 2);

@@ -15,22 +15,8 @@
 
 namespace {
 
-// Nodes 0 to 5, node 6 unused. Element 0: a coloured triangle (0) and a textured quad (1);
-// element 1: a line (100); element 2: a hardpoint (200).
 model Edited() {
-    MoxBuilder b;
-    for (int16_t n = 0; n < 7; ++n)
-        b.nodes.push_back(Node{int16_t(n), int16_t(2 * n), int16_t(100 * n), 0});
-    b.streams = {StreamBytes()
-                     .ColouredPoly({0, 1, 2}, 7)
-                     .MappedPoly(5, {{0, 1, 2}, {1, 3, 4}, {2, 5, 6}, {3, 7, 8}}, 1, 2)
-                     .End()
-                     .bytes,
-                 StreamBytes().Line(4, 5, 3).End().bytes,
-                 StreamBytes().Hardpoint(25, 1).End().bytes};
-    b.root = {0, 255};
-    b.children = {{1, 2}, {255, 255}, {255, 255}};
-    model m = LoadedModel(b);
+    model m = LoadedModel(EditedElements());
     m.m_currelem = 1;
     return m;
 }
@@ -48,7 +34,7 @@ const Change kChanges[] = {
     {"Delete corner", [](model& m) { DeleteNodeFromElement(m, 1); }},
     {"Swap corners", [](model& m) { SwapNodes(m, 0, 3); }},
     {"Duplicate piggyback 1", [](model& m) { Duplicate_Element(m, true, 1); }},
-    {"Duplicate piggyback 100", [](model& m) { Duplicate_Element(m, false, 100); }},
+    {"Duplicate piggyback 200", [](model& m) { Duplicate_Element(m, false, 200); }},
     {"Delete element 1", [](model& m) { Delete_Element(m, 100); }},
     {"Delete piggyback 0", [](model& m) { Delete_Piggyback(m, 0); }},
     {"Change kind", [](model& m) { ChangeType(m, 0); }},
@@ -85,9 +71,13 @@ TEST(Undo, EveryKindOfChangeComesBackExactlyAndGoesAgain) {
 
 TEST(Undo, WhatChangesNothingLeavesNoStep) {
     const std::function<void(model&)> unchanged[] = {
-        [](model& m) { Rescale(m, 1.0); },          [](model& m) { MoveAllNodes(m, kAxisX, 0); },
-        [](model& m) { ChangeType(m, 4); }, // a textured quad stays one
-        [](model& m) { RemoveNodes(m, false); }, // the question answered No
+        [](model& m) { Rescale(m, 1.0); },
+        [](model& m) { MoveAllNodes(m, kAxisX, 0); },
+        [](model& m) {
+            m.m_currelem = 2;
+            ChangeType(m, 4);
+        },                                          // a textured pentagon stays one
+        [](model& m) { RemoveNodes(m, false); },    // the question answered No
         [](model& m) { Delete_Piggyback(m, 100); }, // the last entry of a list stays
     };
     for (const auto& apply : unchanged) {
@@ -144,11 +134,11 @@ TEST(Undo, ASelectionOfWhatIsGoneIsCleared) {
     model m = Edited();
     Duplicate_Element(m, false, 100);
     AddNode(m);
-    m.m_currelem = 300;
+    m.m_currelem = 400;
     m.m_currnode = 7;
     ASSERT_TRUE(m.Undo());
     EXPECT_EQ(m.m_currnode, -1);
-    EXPECT_EQ(m.m_currelem, 300);
+    EXPECT_EQ(m.m_currelem, 400);
     ASSERT_TRUE(m.Undo());
     EXPECT_EQ(m.m_currelem, -1);
 }
