@@ -138,6 +138,16 @@ TEST(MoxReader, DamagedStreamsEndAtTheEntryLimit) {
         EXPECT_EQ(list.Items[255].CRN, 0);
         EXPECT_EQ(list.Items[255].Number, i * 100 + 255);
     }
+
+    // A resave writes every entry that was read, blank ones included, and nothing else.
+    StreamBytes lines, blanks;
+    for (int j = 0; j < 256; ++j) {
+        lines.Line(1, 1, 1);
+        blanks.MappedPoly(0, {}, 0, 0);
+    }
+    builder.streams = {builder.streams[0], lines.End().bytes, blanks.End().bytes, blanks.bytes};
+    builder.trailer = {0x00};
+    EXPECT_EQ(SavedBytes(record), builder.Build());
 }
 
 TEST(MoxReader, ReadsBeyondTheEndGiveZeros) {
