@@ -61,12 +61,6 @@ TEST(WholeModel, RescaleRoundsHalvesToEvenAndRefusesOverflowWhole) {
         EXPECT_EQ(host.messages, row.message[0] == 0 ? std::vector<std::string>{}
                                                      : std::vector<std::string>{row.message});
     }
-
-    RecordingHost host;
-    model m = NodesAlongX({5});
-    Rescale(m, 0.5);
-    Rescale(m, 2.0);
-    EXPECT_EQ(Xs(m), std::vector<int16_t>{4}) << "halving and doubling loses the odd unit";
 }
 
 TEST(WholeModel, MoveAllNodesMovesEveryNodeOrNone) {

@@ -1,5 +1,6 @@
 #include "model.h"
 #include "modelfiles.h"
+#include "moxbuilder.h"
 #include "programstate.h"
 #include "recordinghost.h"
 #include "recordingtextureloader.h"
@@ -9,8 +10,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 namespace {
 
@@ -19,16 +18,13 @@ protected:
     void SetUp() override { ResetProgramState(); }
 
     std::string WriteText(const std::string& name, const std::string& text) {
-        const std::string path = dir.file(name);
-        std::ofstream(path, std::ios::binary) << text;
-        return path;
+        WriteTestFile(dir.file(name), std::vector<uint8_t>(text.begin(), text.end()));
+        return dir.file(name);
     }
 
     static std::string ReadText(const std::string& path) {
-        std::ifstream in(path, std::ios::binary);
-        std::ostringstream text;
-        text << in.rdbuf();
-        return text.str();
+        const std::vector<uint8_t> bytes = ReadFileBytes(path);
+        return {bytes.begin(), bytes.end()};
     }
 
     bool Contains(const std::string& call) const {
