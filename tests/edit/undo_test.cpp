@@ -71,13 +71,9 @@ TEST(Undo, EveryKindOfChangeComesBackExactlyAndGoesAgain) {
 
 TEST(Undo, WhatChangesNothingLeavesNoStep) {
     const std::function<void(model&)> unchanged[] = {
-        [](model& m) { Rescale(m, 1.0); },
-        [](model& m) { MoveAllNodes(m, kAxisX, 0); },
-        [](model& m) {
-            m.m_currelem = 2;
-            ChangeType(m, 4);
-        },                                          // a textured pentagon stays one
-        [](model& m) { RemoveNodes(m, false); },    // the question answered No
+        [](model& m) { Rescale(m, 1.0); },          [](model& m) { MoveAllNodes(m, kAxisX, 0); },
+        [](model& m) { ChangeType(m, 3); }, // a Gouraud quad stays one
+        [](model& m) { RemoveNodes(m, false); }, // the question answered No
         [](model& m) { Delete_Piggyback(m, 100); }, // the last entry of a list stays
     };
     for (const auto& apply : unchanged) {
