@@ -13,8 +13,7 @@ namespace {
 TEST(ImageStore, IsWhiteWhenEmptyAndTellsEachPixelOfItsPicture) {
     ImageStore store;
     EXPECT_FALSE(store.HasPicture());
-    EXPECT_EQ(store.Width(), 1);
-    EXPECT_EQ(store.Height(), 1);
+    EXPECT_EQ(std::make_pair(store.Width(), store.Height()), std::make_pair(1, 1));
     EXPECT_EQ(store.Point(0, 0), kWhite);
 
     PcxImage picture;
@@ -23,12 +22,11 @@ TEST(ImageStore, IsWhiteWhenEmptyAndTellsEachPixelOfItsPicture) {
     picture.rgb = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12};
     store.SetPicture(picture);
     EXPECT_TRUE(store.HasPicture());
-    EXPECT_EQ(store.Width(), 2);
-    EXPECT_EQ(store.Height(), 2);
+    EXPECT_EQ(std::make_pair(store.Width(), store.Height()), std::make_pair(2, 2));
     EXPECT_EQ(store.Point(1, 0), 0x060504u);
     EXPECT_EQ(store.Point(0, 1), 0x090807u);
-    EXPECT_EQ(store.Point(2, 0), kNoPixel);
-    EXPECT_EQ(store.Point(0, -1), kNoPixel);
+    EXPECT_EQ(std::make_pair(store.Point(2, 0), store.Point(0, -1)),
+              std::make_pair(kNoPixel, kNoPixel));
 
     picture.rgb.pop_back();
     store.SetPicture(picture);
