@@ -44,18 +44,6 @@ TEST_F(EditorTest, ExitWithAModelOpenAsksAndCancelKeepsTheProgramRunning) {
     EXPECT_EQ(saved.count(), 0);
 }
 
-TEST_F(EditorTest, YesSavesEveryFileBeforeClosing) {
-    CurrentModel().M_Type = kMoxLoaded;
-    QSignalSpy saved(Find<QAction>("mnu_f_saveall"), &QAction::triggered);
-    host.answers = {MessageAnswer::Yes};
-
-    Window().close();
-    EXPECT_EQ(host.messages.size(), 1u);
-    EXPECT_EQ(saved.count(), 1);
-    EXPECT_FALSE(OGL().bRunning);
-    EXPECT_FALSE(Window().isVisible());
-}
-
 TEST_F(EditorTest, TheMainLoopEndsWhenTheWindowCloses) {
     QSignalSpy unloaded(&Window(), &frm_main::Unloaded);
     QTimer::singleShot(0, &Window(), [this] { Window().close(); });

@@ -1,7 +1,6 @@
 #include "drawscene.h"
 
 #include "currentmodel.h"
-#include "oglgraphics.h"
 #include "viewsettings.h"
 
 #include <GL/gl.h>
@@ -15,9 +14,6 @@
 namespace {
 
 constexpr float kCameraDistance = -100.0f;
-constexpr size_t kFeedbackFloats = 1 << 20;
-constexpr int kFeedbackVertexFloats = 3; // GL_3D
-constexpr size_t kSelectionEntries = 1 << 16;
 
 } // namespace
 
@@ -130,65 +126,6 @@ QPoint OnScreen(double x, double y, double z) {
                &windowZ);
     return {static_cast<int>(std::lround(windowX)),
             viewport[3] - 1 - static_cast<int>(std::lround(windowY))};
-}
-
-PrimitiveCount CountPrimitives() {
-    std::vector<GLfloat> buffer(kFeedbackFloats);
-    PrimitiveCount count;
-    if (!OGL().MakeCurrent())
-        return count;
-    glFeedbackBuffer(static_cast<GLsizei>(buffer.size()), GL_3D, buffer.data());
-    glRenderMode(GL_FEEDBACK);
-    OGL().RenderFrame();
-    const GLint used = glRenderMode(GL_RENDER);
-    for (GLint at = 0; at < used;) {
-        const auto token = static_cast<GLint>(buffer[at++]);
-        switch (token) {
-        case GL_POLYGON_TOKEN:
-            ++count.polygons;
-            at += static_cast<GLint>(buffer[at]) * kFeedbackVertexFloats + 1;
-            break;
-        case GL_LINE_TOKEN:
-        case GL_LINE_RESET_TOKEN:
-            ++count.lines;
-            at += 2 * kFeedbackVertexFloats;
-            break;
-        case GL_POINT_TOKEN:
-            ++count.points;
-            at += kFeedbackVertexFloats;
-            break;
-        case GL_PASS_THROUGH_TOKEN:
-            at += 1;
-            break;
-        default: // bitmap and pixel tokens: one vertex
-            at += kFeedbackVertexFloats;
-        }
-    }
-    return count;
-}
-
-std::set<unsigned> HitNames() {
-    std::vector<GLuint> buffer(kSelectionEntries);
-    std::set<unsigned> names;
-    if (!OGL().MakeCurrent())
-        return names;
-    glSelectBuffer(static_cast<GLsizei>(buffer.size()), buffer.data());
-    glRenderMode(GL_SELECT);
-    OGL().RenderFrame();
-    const GLint hits = glRenderMode(GL_RENDER);
-    // Each hit: the number of names, the nearest and farthest depth, then the names.
-    size_t at = 0;
-    for (GLint hit = 0; hit < hits && at < buffer.size(); ++hit) {
-        const GLuint count = buffer[at];
-        at += 3;
-        for (GLuint name = 0; name < count && at < buffer.size(); ++name)
-            names.insert(buffer[at++]);
-    }
-    return names;
-}
-
-int32_t SolidTexture(uint8_t red, uint8_t green, uint8_t blue) {
-    return StripTexture({{red, green, blue}});
 }
 
 int32_t StripTexture(const std::vector<Rgb>& texels) {

@@ -1,6 +1,5 @@
 // Small model files built in memory for the painter's tests, a fixed camera looking at them, and
-// ways to see what a frame holds: screen positions of model points and a count of the primitives
-// GL was given.
+// the screen positions of model points in a frame.
 #pragma once
 
 #include "editorfixture.h"
@@ -9,7 +8,6 @@
 #include <QPoint>
 
 #include <cstdint>
-#include <set>
 #include <vector>
 
 // A loaded file under construction. Squares are laid in the plane Y = 0, which the test camera
@@ -43,22 +41,9 @@ void InstallFamily(std::vector<FileRecord> files);
 // context must be current.
 QPoint OnScreen(double x, double y, double z);
 
-struct PrimitiveCount {
-    int polygons = 0; // filled pieces: a driver may hand a polygon on as several triangles
-    int lines = 0;
-    int points = 0;
-};
-// Paints one frame in GL feedback mode and counts what reached the rasteriser: culled faces and
-// hidden piggybacks do not count; an outline counts as lines.
-PrimitiveCount CountPrimitives();
-
 // True when each component of `a` lies within `tolerance` of that of `b`.
 bool Near(const Rgb& a, const Rgb& b, int tolerance);
 
-// Paints one frame in GL selection mode over the whole view and returns the names of all hits.
-std::set<unsigned> HitNames();
-
-// A texture of one colour, and one of a row of texels of these colours, made in the current
-// context with nearest-texel sampling.
-int32_t SolidTexture(uint8_t red, uint8_t green, uint8_t blue);
+// A texture of one row of texels of these colours, made in the current context with
+// nearest-texel sampling.
 int32_t StripTexture(const std::vector<Rgb>& texels);

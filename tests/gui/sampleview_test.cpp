@@ -1,10 +1,14 @@
-// The sample fighter as the editor first shows it: loaded with its connected files and texture,
-// seen from the perspective camera of a load.
+// The sample fighter named on the command line: it opens with its family, its textures and the
+// window's reset, shows from the load's camera, and the closing question's Yes saves every file.
+#include "commandline.h"
 #include "currentmodel.h"
 #include "drawscene.h"
 #include "editorfixture.h"
 #include "oglgraphics.h"
+#include "tempdir.h"
+#include "viewsettings.h"
 
+#include <filesystem>
 #include <string>
 
 namespace {
@@ -20,14 +24,26 @@ struct Landmark {
 
 } // namespace
 
-TEST_F(EditorTest, TheSampleFighterIsAssembledAndTextured) {
-    ASSERT_TRUE(OGL().MakeCurrent());
+TEST_F(EditorTest, TheSampleFighterOpensAssembledAndTexturedAndYesSavesEveryFile) {
+    // A copy of the fighter, so that saves land there and not in the build tree.
+    TempDir folder;
+    for (const char* name : {"PDEMOF.MOX", "PDEMOC.MOX", "PDEMOE.MOX", "PDEMOG.MOX", "PDEMO.PCX"})
+        std::filesystem::copy_file(std::filesystem::path(SAMPLE_DIR) / name, folder.file(name));
     host.answers = {MessageAnswer::Yes};
-    std::string name = std::string(SAMPLE_DIR) + "/PDEMOF.MOX";
-    CurrentModel().Load(name);
-    const QImage frame = ReadFrame();
-    ASSERT_FALSE(frame.isNull());
+    ASSERT_TRUE(OGL().MakeCurrent());
+    OpenModelFromCommandLine(folder.file("PDEMOF.MOX"));
 
+    const model& opened = CurrentModel();
+    EXPECT_EQ(host.messages, std::vector<std::string>{"Load this model AND connected models?"});
+    ASSERT_EQ(opened.Files.size(), 8u);
+    for (int slot : {0, 3, 4, 5})
+        EXPECT_NE(opened.Files[slot].TextureID, 0) << "slot " << slot;
+    EXPECT_FALSE(opened.Files[1].Loaded);
+    EXPECT_EQ(Window().windowTitle().toStdString(), "Skylathe - PDEMOF.MOX");
+    EXPECT_EQ(View().ModifyAxis, 30000);
+    EXPECT_EQ(opened.m_currelem, -1);
+
+    const QImage frame = ReadFrame();
     EXPECT_EQ(PixelAt(frame, 10, 10), (Rgb{177, 228, 254})) << "sky";
     // Points on the right side of the fighter as the load's camera sees it (nose to the right,
     // gear down): a blank texture would paint them white, a connected file out of place sky.
@@ -36,7 +52,6 @@ TEST_F(EditorTest, TheSampleFighterIsAssembledAndTextured) {
         {"nose art panel of PDEMOC", -36.0, 16.1, 8.0, {242, 232, 202}},
         {"right wing of PDEMOE", -14.1, 67.7, 1.0, {122, 98, 62}},
         {"right main wheel, down", -6.6, 42.1, -40.5, {30, 30, 30}},
-        {"fuselage underside", -62.9, 13.4, -7.4, {190, 200, 172}},
     };
     for (const Landmark& mark : landmarks) {
         const QPoint at = OnScreen(mark.x, mark.y, mark.z);
@@ -45,4 +60,10 @@ TEST_F(EditorTest, TheSampleFighterIsAssembledAndTextured) {
             << mark.what << " at " << at.x() << "," << at.y() << " is "
             << ::testing::PrintToString(seen);
     }
+
+    host.answers = {MessageAnswer::Yes};
+    ASSERT_TRUE(Window().Form_Unload());
+    for (const char* name :
+         {"PDEMOF_001.MOX", "PDEMOC_001.MOX", "PDEMOE_001.MOX", "PDEMOG_001.MOX"})
+        EXPECT_TRUE(std::filesystem::exists(folder.file(name))) << name;
 }

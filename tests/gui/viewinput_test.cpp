@@ -39,7 +39,6 @@ protected:
         EditorTest::TearDown();
     }
 
-    // Where a model point lands in the last frame; a corner of the view for the sky.
     // Where a model point lands in a frame painted now; a corner of the view for the sky. A tab
     // switch lays the panes out again, and the GL surface takes its new size a little later.
     QPoint PixelOf(const std::optional<Point3>& at) {
@@ -54,7 +53,7 @@ protected:
 
 // Two nodes on the line of sight at the centre, the farther one first; overlapping squares at two
 // depths; two equal squares in one element; a state-hidden square beside a visible one; a back
-// face.
+// face; a line.
 FileRecord PickScene() {
     TestFile file;
     file.AddNode(0, 40, 0);
@@ -66,6 +65,15 @@ FileRecord PickScene() {
     file.AddElement({Polygon(kTextured, file.AddSquare(0, 30, 10), kCodePilot, kPilotDead),
                      Polygon(kTextured, file.AddSquare(30, 30, 10))});
     file.AddElement({Polygon(kTextured, file.AddSquare(0, -30, 10, true))});
+    const auto line = file.AddSquare(-30, -30, 10);
+    file.AddElement({Polygon(1, {line[0], line[2]})});
+    return file.record;
+}
+
+// A square of a connected file, placed at the main file's hardpoint 3, to the lower right.
+FileRecord ConnectedSquare() {
+    TestFile file;
+    file.AddElement({Polygon(kTextured, file.AddSquare(0, 0, 10))});
     return file.record;
 }
 
@@ -86,11 +94,15 @@ TEST_F(ViewInputTest, ClickSelectsByTabAndRanksByDepth) {
         {"second piggyback of an element", 3, Point3{30, 0, 30}, 301, 0, 301},
         {"polygon hidden by the pilot state", 3, Point3{0, 0, 30}, -1, -1, kUntouched},
         {"back face", 3, Point3{0, 0, -30}, -1, -1, kUntouched},
+        {"line", 3, Point3{-30, 0, -30}, -1, -1, kUntouched},
+        {"connected file, under the name each file starts with", 3, Point3{30, 0, -30}, 0, 0, 0},
         {"sky in the Elements tab", 3, std::nullopt, -1, -1, kUntouched},
         {"lower of two nodes, the farther", 4, Point3{0, 0, 0}, 0, 0, 0},
         {"sky in the Nodes tab", 4, std::nullopt, -1, -1, kUntouched},
     };
-    InstallFamily({PickScene()});
+    InstallFamily({PickScene(), FileRecord{}, FileRecord{}, ConnectedSquare()});
+    CurrentModel().Files[0].HP[3].X = 30;
+    CurrentModel().Files[0].HP[3].Z = -30;
     View().mnu_v_nodes = true;
     Window().mnu_m_pick_Click();
     for (const Row& row : rows) {
