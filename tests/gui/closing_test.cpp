@@ -15,13 +15,6 @@ namespace {
 constexpr const char* kSaveQuestion = "Do you wish to save the current file(s) before exiting?";
 }
 
-TEST_F(EditorTest, ExitWithNothingOpenAsksNothing) {
-    Find<QAction>("mnu_f_exit")->trigger();
-    EXPECT_TRUE(host.messages.empty());
-    EXPECT_FALSE(OGL().bRunning);
-    EXPECT_FALSE(Window().isVisible());
-}
-
 TEST_F(EditorTest, ExitWithAModelOpenAsksAndCancelKeepsTheProgramRunning) {
     CurrentModel().M_Type = kMoxLoaded;
     QSignalSpy saved(Find<QAction>("mnu_f_saveall"), &QAction::triggered);
@@ -44,12 +37,14 @@ TEST_F(EditorTest, ExitWithAModelOpenAsksAndCancelKeepsTheProgramRunning) {
     EXPECT_EQ(saved.count(), 0);
 }
 
-TEST_F(EditorTest, TheMainLoopEndsWhenTheWindowCloses) {
+TEST_F(EditorTest, ExitWithNothingOpenAsksNothingAndEndsTheMainLoop) {
     QSignalSpy unloaded(&Window(), &frm_main::Unloaded);
-    QTimer::singleShot(0, &Window(), [this] { Window().close(); });
+    QTimer::singleShot(0, &Window(), [this] { Find<QAction>("mnu_f_exit")->trigger(); });
     RunMainLoop(Window());
     EXPECT_EQ(unloaded.count(), 1);
+    EXPECT_TRUE(host.messages.empty());
     EXPECT_FALSE(OGL().bRunning);
+    EXPECT_FALSE(Window().isVisible());
     // With bRunning false the loop does not start again.
     RunMainLoop(Window());
 }

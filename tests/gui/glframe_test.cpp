@@ -35,15 +35,28 @@ void ExpectSkyEverywhere(const QImage& frame, const char* what) {
 
 } // namespace
 
-TEST_F(EditorTest, AFrameWithNothingLoadedIsTheSkyColourInEveryView) {
+TEST_F(EditorTest, AFrameWithNothingToPaintIsTheSkyColourInEveryView) {
     ASSERT_TRUE(WaitForFrames(2));
     ExpectSkyEverywhere(GrabShownFrame(), "shown frame");
-    ExpectSkyEverywhere(ReadFrame(), "perspective frame");
-
-    View().ViewMode = kTopView;
-    ExpectSkyEverywhere(ReadFrame(), "top view frame");
-    CurrentModel().M_Type = kMoyLoaded;
-    ExpectSkyEverywhere(ReadFrame(), "frame of a .moy load");
+    model& current = CurrentModel();
+    const std::pair<const char*, std::function<void()>> rows[] = {
+        {"perspective frame", [] {}},
+        {"frame of a .moy load", [&] { current.M_Type = kMoyLoaded; }},
+        {"a family without files", [&] { current.M_Type = kMoxLoaded; }},
+        {"a current file beyond the family",
+         [&] {
+             current.Files.resize(2);
+             current.m_currmox = 5;
+             View().chk_thismox = true;
+         }},
+        {"a negative current file", [&] { current.m_currmox = -1; }},
+        {"a family shorter than its slots", [] { View().chk_thismox = false; }},
+        {"top view frame", [] { View().ViewMode = kTopView; }},
+    };
+    for (const auto& [what, change] : rows) {
+        change();
+        ExpectSkyEverywhere(ReadFrame(), what);
+    }
 }
 
 TEST_F(EditorTest, AViewOfHeightZeroGetsAViewportOfHeightOne) {
@@ -86,21 +99,6 @@ TEST_F(EditorTest, ThePerspectiveCameraFollowsTheModelsCameraFields) {
     glGetFloatv(GL_MODELVIEW_MATRIX, modelview.data());
     for (int i = 0; i < 16; ++i)
         EXPECT_NEAR(modelview[i], expected.constData()[i], 1e-3f) << "element " << i;
-}
-
-TEST_F(EditorTest, DrawPassesOverAFamilyItCannotPaint) {
-    model& current = CurrentModel();
-    current.M_Type = kMoxLoaded; // and not one file in Files
-    ExpectSkyEverywhere(ReadFrame(), "a family without files");
-
-    current.Files.resize(2);
-    current.m_currmox = 5;
-    View().chk_thismox = true;
-    ExpectSkyEverywhere(ReadFrame(), "a current file beyond the family");
-    current.m_currmox = -1;
-    ExpectSkyEverywhere(ReadFrame(), "a negative current file");
-    View().chk_thismox = false;
-    ExpectSkyEverywhere(ReadFrame(), "a family shorter than its slots");
 }
 
 TEST_F(EditorTest, TheViewPaintsEachChangeInItsNextFrameAndRestsWhileNothingChanges) {

@@ -1,24 +1,20 @@
 // Textures made from PCX files, read back from GL: the pixels bottom-up, white for files that give
 // no picture, and the uploads that wait until a GL context is current.
 #include "bytefile.h"
+#include "editorfixture.h"
 #include "gltexture.h"
 #include "gltextureloader.h"
+#include "glview.h"
 #include "model.h"
+#include "oglgraphics.h"
 #include "pcxreader.h"
 #include "pcxwriter.h"
 #include "programstate.h"
-#include "recordinghost.h"
 #include "tempdir.h"
 #include "testpictures.h"
 
-#include <QGuiApplication>
-#include <QOffscreenSurface>
-#include <QOpenGLContext>
-
 #include <GL/gl.h>
 #include <gtest/gtest.h>
-
-#include <memory>
 
 namespace {
 
@@ -50,43 +46,11 @@ Bytes BottomUp(const PcxImage& picture) {
     return rgb;
 }
 
-class GLTextureTest : public ::testing::Test {
-protected:
-    static void SetUpTestSuite() {
-        static int argc = 1;
-        static char name[] = "gui_render_tests";
-        static char* argv[] = {name, nullptr};
-        application = new QGuiApplication(argc, argv);
-    }
-    static void TearDownTestSuite() {
-        delete application;
-        application = nullptr;
-    }
+} // namespace
 
-    void SetUp() override {
-        QSurfaceFormat format;
-        format.setRenderableType(QSurfaceFormat::OpenGL);
-        format.setProfile(QSurfaceFormat::CompatibilityProfile);
-        surface = std::make_unique<QOffscreenSurface>();
-        surface->setFormat(format);
-        surface->create();
-        context = std::make_unique<QOpenGLContext>();
-        context->setFormat(format);
-        ASSERT_TRUE(context->create());
-        ASSERT_TRUE(context->makeCurrent(surface.get()));
-    }
-    void TearDown() override { context->doneCurrent(); }
-
-    static QGuiApplication* application;
-    std::unique_ptr<QOffscreenSurface> surface;
-    std::unique_ptr<QOpenGLContext> context;
+TEST_F(EditorTest, TexturesAreUploadedBottomUpEachUnderANewName) {
+    ASSERT_TRUE(OGL().MakeCurrent());
     TempDir folder;
-    RecordingHost host;
-};
-
-QGuiApplication* GLTextureTest::application = nullptr;
-
-TEST_F(GLTextureTest, UploadsEachPictureBottomUpUnderANewName) {
     // Odd widths: the 256-colour texture is as wide as its rows (6), the true-colour one 7 wide.
     const std::string palette8 = folder.file("wing.pcx");
     const std::string trueColour = folder.file("tail.pcx");
@@ -110,12 +74,6 @@ TEST_F(GLTextureTest, UploadsEachPictureBottomUpUnderANewName) {
         EXPECT_EQ(texture.height, decoded.height);
         EXPECT_EQ(texture.rgb, BottomUp(decoded));
 
-        GLint minFilter = 0;
-        GLint magFilter = 0;
-        glGetTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, &minFilter);
-        glGetTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, &magFilter);
-        EXPECT_EQ(minFilter, GL_LINEAR);
-        EXPECT_EQ(magFilter, GL_LINEAR);
         glGetIntegerv(GL_UNPACK_ALIGNMENT, &alignment);
         EXPECT_EQ(alignment, 4);
     }
@@ -125,7 +83,9 @@ TEST_F(GLTextureTest, UploadsEachPictureBottomUpUnderANewName) {
     EXPECT_TRUE(host.messages.empty());
 }
 
-TEST_F(GLTextureTest, GivesAWhiteTextureForAFileThatIsNoPicture) {
+TEST_F(EditorTest, AFileThatIsNoPictureGivesAWhiteTexture) {
+    ASSERT_TRUE(OGL().MakeCurrent());
+    TempDir folder;
     Bytes deep = EncodePcx8(4, 4, TestIndices(4, 4, 1), TestPalette());
     Bytes unmarked = deep;
     deep[3] = 4;
@@ -153,18 +113,18 @@ TEST_F(GLTextureTest, GivesAWhiteTextureForAFileThatIsNoPicture) {
     EXPECT_FALSE(LoadGLTexture(folder.file("deep.pcx"), name, kImageStoreCount));
 }
 
-TEST_F(GLTextureTest, UploadsTexturesLoadedBeforeTheContextWhenTheViewFlushesThem) {
+TEST_F(EditorTest, TexturesLoadedWithoutAContextAreUploadedWhenTheViewFlushesThem) {
+    TempDir folder;
     const std::string path = folder.file("fuselage.pcx");
     WriteFileBytes(path, EncodePcx24(9, 5, TestRgb(9, 5, 3)));
-    GLTextureLoader loader;
-    SetTextureLoader(&loader);
-    const float granularity = loader.PointSizeGranularity();
+    ASSERT_TRUE(OGL().MakeCurrent());
+    const float granularity = textures.PointSizeGranularity();
     EXPECT_GT(granularity, 0.0f);
 
     model aircraft;
     aircraft.Files.resize(kFileSlots);
-    context->doneCurrent();
-    EXPECT_EQ(loader.PointSizeGranularity(), granularity);
+    Surface().doneCurrent();
+    EXPECT_EQ(textures.PointSizeGranularity(), granularity);
     ASSERT_TRUE(CurrentTextureLoader()->LoadGLTexture(path, aircraft.Files[1].TextureID, 1));
     EXPECT_EQ(aircraft.Files[1].TextureID, 0);
     EXPECT_TRUE(Texture(1)->HasPicture());
@@ -178,7 +138,7 @@ TEST_F(GLTextureTest, UploadsTexturesLoadedBeforeTheContextWhenTheViewFlushesThe
     ASSERT_TRUE(LoadGLTexture(top, project.TopImage, kThreeViewSlot));
     ASSERT_TRUE(LoadGLTexture(left, project.LeftImage, kThreeViewSlot));
 
-    ASSERT_TRUE(context->makeCurrent(surface.get()));
+    ASSERT_TRUE(OGL().MakeCurrent());
     FlushPendingTextures(aircraft);
     EXPECT_FALSE(HasPendingTextures());
     ASSERT_NE(aircraft.Files[1].TextureID, 0);
@@ -186,7 +146,4 @@ TEST_F(GLTextureTest, UploadsTexturesLoadedBeforeTheContextWhenTheViewFlushesThe
     EXPECT_EQ(ReadTexture(project.TopImage).rgb, BottomUp(*ReadPcx(top).picture));
     EXPECT_EQ(ReadTexture(project.LeftImage).rgb, BottomUp(*ReadPcx(left).picture));
     EXPECT_EQ(aircraft.Files[kThreeViewSlot].TextureID, 0);
-    SetTextureLoader(nullptr);
 }
-
-} // namespace

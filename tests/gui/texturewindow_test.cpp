@@ -1,11 +1,9 @@
-// The texture window: the texture of the sample fighter with the selected polygon's map outline,
-// read back from the window's pixels.
+// The texture window, opened from the View menu: the texture of the sample fighter with the
+// selected polygon's map outline at each scale, read back from the window's pixels.
 #include "currentmodel.h"
 #include "editorfixture.h"
-#include "gltextureloader.h"
 #include "picturebox.h"
 #include "piggybacknumber.h"
-#include "recordinghost.h"
 #include "texturemap.h"
 #include "texturewindow.h"
 
@@ -53,100 +51,9 @@ bool RedNear(const QImage& image, QPointF at) {
     return false;
 }
 
-class TextureWindowTest : public ::testing::TestWithParam<const char*> {
-protected:
-    void SetUp() override {
-        SetTextureLoader(&textures);
-        ReplaceCurrentModel();
-        std::string name = std::string(SAMPLE_DIR) + "/PDEMOF.MOX";
-        CurrentModel().Load(name);
-        window.Open(0);
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
-    }
-    void TearDown() override {
-        ReplaceCurrentModel();
-        SetTextureLoader(nullptr);
-    }
+} // namespace
 
-    // The picture as the window shows it.
-    QImage Picture() {
-        const QImage shown = window.grab().toImage();
-        return shown.copy(window.Texture->geometry());
-    }
-    void Select(int16_t number) {
-        CurrentModel().m_currelem = number;
-        DrawTextureMap(CurrentModel());
-    }
-
-    RecordingHost host;
-    GLTextureLoader textures;
-    frm_texture window;
-};
-
-TEST_P(TextureWindowTest, OutlinesTheSelectedTexturedPolygon) {
-    QTest::mouseClick(window.findChild<QRadioButton*>(GetParam()), Qt::LeftButton);
-    const FileRecord& file = CurrentModel().Files[0];
-    const int16_t triangle = FindPolygon(file, 5, 3);
-    const int16_t coloured = FindPolygon(file, 3, 0);
-    ASSERT_GE(triangle, 0);
-    ASSERT_GE(coloured, 0);
-
-    EXPECT_EQ(window.Texture->width(), window.width());
-    EXPECT_EQ(window.Texture->height(), window.width());
-    EXPECT_EQ(RedPixels(Picture()), 0) << "the plain texture";
-    Select(coloured);
-    EXPECT_EQ(RedPixels(Picture()), 0) << "a coloured polygon has no map";
-
-    Select(triangle);
-    const QImage picture = Picture();
-    const Piggyback& piggyback = *FindPiggyback(file, triangle);
-    const double s = window.Texture->width() / 255.0;
-    const auto corner = [&](int i) {
-        return QPointF(piggyback.XMap[i] * s, piggyback.YMap[i] * s);
-    };
-    QFont font = window.Texture->font();
-    font.setBold(true);
-    font.setPointSizeF(s + 8);
-    font.setStyleStrategy(QFont::NoAntialias);
-    for (int i = 0; i < 3; ++i) {
-        const QPointF from = corner(i);
-        const QPointF to = corner((i + 1) % 3);
-        for (double t : {0.25, 0.5, 0.75})
-            EXPECT_TRUE(RedNear(picture, from + (to - from) * t))
-                << "edge " << i + 1 << " at " << t;
-        // The number i + 1 stands 20 pixels above its corner: every pixel of its glyph is red.
-        QImage glyph(picture.size(), QImage::Format_RGB32);
-        glyph.fill(Qt::white);
-        QPainter painter(&glyph);
-        painter.setFont(font);
-        painter.setPen(Qt::black);
-        painter.drawText(QRectF(from - QPointF(0, 20), QSizeF(picture.size())),
-                         Qt::AlignLeft | Qt::AlignTop, QString::number(i + 1));
-        painter.end();
-        int glyphPixels = 0;
-        int missing = 0;
-        for (int y = 0; y < glyph.height(); ++y)
-            for (int x = 0; x < glyph.width(); ++x)
-                if (glyph.pixelColor(x, y) == Qt::black) {
-                    ++glyphPixels;
-                    missing += picture.pixelColor(x, y) != kRed;
-                }
-        EXPECT_GT(glyphPixels, 10) << "label " << i + 1;
-        EXPECT_EQ(missing, 0) << "label " << i + 1;
-    }
-
-    // The pointer at the picture's right edge reads the last map column, never beyond it.
-    const QPoint edge(window.Texture->width() - 1, 0);
-    QMouseEvent move(QEvent::MouseMove, edge, window.Texture->mapToGlobal(edge), Qt::NoButton,
-                     Qt::NoButton, Qt::NoModifier);
-    QApplication::sendEvent(window.Texture, &move);
-    EXPECT_EQ(window.findChild<QLabel*>("lbl_coord")->text(), "254, 0");
-}
-
-INSTANTIATE_TEST_SUITE_P(Scales, TextureWindowTest, ::testing::Values("opt_100", "opt_300"));
-
-// The View menu's entry opens and closes the window once a model is open; its tick follows.
-TEST_F(EditorTest, TextureWindowFromTheViewMenu) {
+TEST_F(EditorTest, TextureWindowFromTheViewMenuOutlinesTheSelectedPolygonAtEachScale) {
     QAction* entry = Find<QAction>("mnu_v_texwindow");
     frm_texture* window = Find<frm_texture>("frm_texture");
     ASSERT_EQ(window, TextureWindow());
@@ -161,12 +68,75 @@ TEST_F(EditorTest, TextureWindowFromTheViewMenu) {
     CurrentModel().Load(name);
     entry->trigger();
     expect(true, "opened");
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
     EXPECT_EQ(window->windowTitle(), "TEXTURE");
+
+    const FileRecord& file = CurrentModel().Files[0];
+    const int16_t triangle = FindPolygon(file, 5, 3);
+    const int16_t coloured = FindPolygon(file, 3, 0);
+    ASSERT_GE(triangle, 0);
+    ASSERT_GE(coloured, 0);
+    const auto picture = [&](int16_t selected) {
+        CurrentModel().m_currelem = selected;
+        DrawTextureMap(CurrentModel());
+        return window->grab().toImage().copy(window->Texture->geometry());
+    };
+    for (const char* scale : {"opt_100", "opt_300"}) {
+        SCOPED_TRACE(scale);
+        QTest::mouseClick(window->findChild<QRadioButton*>(scale), Qt::LeftButton);
+        EXPECT_EQ(window->Texture->width(), window->width());
+        EXPECT_EQ(window->Texture->height(), window->width());
+        EXPECT_EQ(RedPixels(picture(-1)), 0) << "the plain texture";
+        EXPECT_EQ(RedPixels(picture(coloured)), 0) << "a coloured polygon has no map";
+
+        const QImage shown = picture(triangle);
+        const Piggyback& piggyback = *FindPiggyback(file, triangle);
+        const double s = window->Texture->width() / 255.0;
+        const auto corner = [&](int i) {
+            return QPointF(piggyback.XMap[i] * s, piggyback.YMap[i] * s);
+        };
+        QFont font = window->Texture->font();
+        font.setBold(true);
+        font.setPointSizeF(s + 8);
+        font.setStyleStrategy(QFont::NoAntialias);
+        for (int i = 0; i < 3; ++i) {
+            const QPointF from = corner(i);
+            const QPointF to = corner((i + 1) % 3);
+            for (double t : {0.25, 0.5, 0.75})
+                EXPECT_TRUE(RedNear(shown, from + (to - from) * t))
+                    << "edge " << i + 1 << " at " << t;
+            // The number i + 1 stands 20 pixels above its corner: every pixel of its glyph is red.
+            QImage glyph(shown.size(), QImage::Format_RGB32);
+            glyph.fill(Qt::white);
+            QPainter painter(&glyph);
+            painter.setFont(font);
+            painter.setPen(Qt::black);
+            painter.drawText(QRectF(from - QPointF(0, 20), QSizeF(shown.size())),
+                             Qt::AlignLeft | Qt::AlignTop, QString::number(i + 1));
+            painter.end();
+            int glyphPixels = 0;
+            int missing = 0;
+            for (int y = 0; y < glyph.height(); ++y)
+                for (int x = 0; x < glyph.width(); ++x)
+                    if (glyph.pixelColor(x, y) == Qt::black) {
+                        ++glyphPixels;
+                        missing += shown.pixelColor(x, y) != kRed;
+                    }
+            EXPECT_GT(glyphPixels, 10) << "label " << i + 1;
+            EXPECT_EQ(missing, 0) << "label " << i + 1;
+        }
+
+        // The pointer at the picture's right edge reads the last map column, never beyond it.
+        const QPoint edge(window->Texture->width() - 1, 0);
+        QMouseEvent move(QEvent::MouseMove, edge, window->Texture->mapToGlobal(edge), Qt::NoButton,
+                         Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(window->Texture, &move);
+        EXPECT_EQ(window->findChild<QLabel*>("lbl_coord")->text(), "254, 0");
+    }
+
     entry->trigger();
     expect(false, "closed from the menu");
     entry->trigger();
     QTest::mouseClick(window->cmd_close, Qt::LeftButton);
     expect(false, "closed by its button");
 }
-
-} // namespace

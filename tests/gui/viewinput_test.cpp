@@ -12,7 +12,7 @@
 #include <QTest>
 #include <QWheelEvent>
 
-#include <functional>
+#include <map>
 #include <optional>
 
 namespace {
@@ -178,74 +178,60 @@ TEST_F(ViewInputTest, MoveToolPressChoosesAxisAndDragMovesNode) {
     }
 }
 
-TEST_F(ViewInputTest, WheelAndKeysChangeCameraToolsAndStates) {
+TEST_F(ViewInputTest, WheelAndKeysChangeCameraTabAndStates) {
     TestFile file;
     file.AddNode(0, 0, 0);
     InstallFamily({file.record});
     Window().activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
     model& current = CurrentModel();
-    const auto wheel = [&](int delta) {
-        QWheelEvent event(QPointF(10, 10), Surface().mapToGlobal(QPointF(10, 10)), {}, {0, delta},
-                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(&Surface(), &event);
-    };
-    const auto key = [&](Qt::Key code, Qt::KeyboardModifiers modifiers = {}) {
-        return [this, code, modifiers] { QTest::keyClick(&Surface(), code, modifiers); };
-    };
-    const auto perspective = [this] { Window().mnu_v_persp_Click(); };
-    const auto left = [this] { Window().mnu_v_left_Click(); };
-
     const struct {
-        const char* what;
-        std::function<void()> view;
-        std::function<void()> input;
-        std::function<float()> field;
+        bool orthographic;
+        Qt::Key key; // Qt::Key_unknown for the wheel, turned by `modifiers` notches
+        int modifiers;
+        float model::*field;
         float change;
     } rows[] = {
-        {"wheel, perspective", perspective, [&] { wheel(kNotch); }, [&] { return current.m_zoom; },
-         kNotch},
-        {"wheel, orthographic", left, [&] { wheel(-kNotch); }, [&] { return current.m_zoom; },
-         -kNotch / 4},
-        {"keypad +, perspective", perspective, key(Qt::Key_Plus, Qt::KeypadModifier),
-         [&] { return current.m_zoom; }, 1},
-        {"keypad +, orthographic", left, key(Qt::Key_Plus, Qt::KeypadModifier),
-         [&] { return current.m_zoom; }, -1},
-        {"Up, orthographic", left, key(Qt::Key_Up), [&] { return current.m_yrot; }, 0},
-        {"Up", perspective, key(Qt::Key_Up), [&] { return current.m_yrot; }, -2},
-        {"Ctrl Up", perspective, key(Qt::Key_Up, Qt::ControlModifier),
-         [&] { return current.m_ypos; }, 2},
-        {"Shift Ctrl Left", perspective, key(Qt::Key_Left, Qt::ShiftModifier | Qt::ControlModifier),
-         [&] { return current.m_bank; }, -2},
-        {"Ctrl Right", perspective, key(Qt::Key_Right, Qt::ControlModifier),
-         [&] { return current.m_xpos; }, 2},
-        {"F4 from the first tab", perspective, key(Qt::Key_F4),
-         [] { return static_cast<float>(View().CurrentTab); }, kNodesTab - kModelInfoTab},
+        {false, Qt::Key_unknown, 1, &model::m_zoom, kNotch},
+        {true, Qt::Key_unknown, -1, &model::m_zoom, -kNotch / 4},
+        {false, Qt::Key_Plus, Qt::KeypadModifier, &model::m_zoom, 1},
+        {true, Qt::Key_Plus, Qt::KeypadModifier, &model::m_zoom, -1},
+        {true, Qt::Key_Up, 0, &model::m_yrot, 0},
+        {false, Qt::Key_Up, 0, &model::m_yrot, -2},
+        {false, Qt::Key_Up, Qt::ControlModifier, &model::m_ypos, 2},
+        {false, Qt::Key_Left, Qt::ShiftModifier | Qt::ControlModifier, &model::m_bank, -2},
+        {false, Qt::Key_Right, Qt::ControlModifier, &model::m_xpos, 2},
     };
     for (const auto& row : rows) {
-        SCOPED_TRACE(row.what);
-        row.view();
-        const float before = row.field();
-        row.input();
-        EXPECT_FLOAT_EQ(row.field() - before, row.change);
+        SCOPED_TRACE(::testing::Message() << "key " << row.key << ", " << row.modifiers);
+        if (row.orthographic)
+            Window().mnu_v_left_Click();
+        else
+            Window().mnu_v_persp_Click();
+        const float before = current.*row.field;
+        if (row.key == Qt::Key_unknown) {
+            QWheelEvent event(QPointF(10, 10), Surface().mapToGlobal(QPointF(10, 10)), {},
+                              {0, row.modifiers * kNotch}, Qt::NoButton, Qt::NoModifier,
+                              Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(&Surface(), &event);
+        } else {
+            QTest::keyClick(&Surface(), row.key, Qt::KeyboardModifiers(row.modifiers));
+        }
+        EXPECT_FLOAT_EQ(current.*row.field - before, row.change);
     }
+    QTest::keyClick(&Surface(), Qt::Key_F4);
+    EXPECT_EQ(View().CurrentTab, kNodesTab);
 
-    const struct {
-        Qt::Key key;
-        int32_t model::*field;
-        int32_t value;
-        const char* button;
-        const char* image;
-    } states[] = {{Qt::Key_C, &model::m_pilot, 1, "Pilot", "PilotDead"},
-                  {Qt::Key_C, &model::m_pilot, 2, "Pilot", "PilotBailed"},
-                  {Qt::Key_C, &model::m_pilot, 0, "Pilot", "PilotAlive"},
-                  {Qt::Key_G, &model::m_lg, 0, "LG", "LGUp"},
-                  {Qt::Key_G, &model::m_lg, 1, "LG", "LGDown"},
-                  {Qt::Key_D, &model::m_wing, 1, "Wing", "WingDam"},
-                  {Qt::Key_D, &model::m_wing, 0, "Wing", "WingOK"}};
-    for (const auto& state : states) {
-        QTest::keyClick(&Surface(), state.key);
-        EXPECT_EQ(current.*state.field, state.value) << state.image;
-        EXPECT_EQ(Window().Button(state.button)->property("image").toString(), state.image);
+    // Each state key steps its button through its states.
+    const std::pair<Qt::Key, const char*> states[] = {
+        {Qt::Key_C, "PilotDead"}, {Qt::Key_C, "PilotBailed"}, {Qt::Key_C, "PilotAlive"},
+        {Qt::Key_G, "LGUp"},      {Qt::Key_G, "LGDown"},      {Qt::Key_D, "WingDam"},
+        {Qt::Key_D, "WingOK"}};
+    const std::map<Qt::Key, const char*> buttons{
+        {Qt::Key_C, "Pilot"}, {Qt::Key_G, "LG"}, {Qt::Key_D, "Wing"}};
+    for (const auto& [key, image] : states) {
+        QTest::keyClick(&Surface(), key);
+        EXPECT_EQ(Window().Button(buttons.at(key))->property("image").toString(), image);
     }
+    EXPECT_EQ(current.m_pilot * 100 + current.m_lg * 10 + current.m_wing, 10);
 }
