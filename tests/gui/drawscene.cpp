@@ -100,15 +100,8 @@ void InstallFamily(std::vector<FileRecord> files) {
     for (size_t slot = 0; slot < current.Files.size(); ++slot)
         current.Files[slot].Index = static_cast<int16_t>(slot);
     current.M_Type = kMoxLoaded;
-    current.m_currmox = 0;
-    current.m_currelem = -1;
     current.m_currnode = -1;
     current.m_zoom = kCameraDistance;
-    current.m_xpos = 0.0f;
-    current.m_ypos = 0.0f;
-    current.m_xrot = 0.0f;
-    current.m_yrot = 0.0f;
-    current.m_bank = 0.0f;
     View().ViewMode = kPerspectiveView;
 }
 

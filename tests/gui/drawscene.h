@@ -34,7 +34,8 @@ Piggyback Polygon(uint8_t type, const std::vector<uint8_t>& nodes, uint8_t cod =
 Piggyback HardpointAt(uint8_t node, uint8_t cod = 0, uint8_t flag = 0);
 
 // Puts the files into the open model's slots (the first is the main file), marks the model as a
-// loaded .mox family and sets the camera 100 units in front of the origin, looking along +Y.
+// loaded .mox family and moves the camera of a fresh model 100 units in front of the origin,
+// looking along +Y.
 void InstallFamily(std::vector<FileRecord> files);
 
 // Where a model point lands in the frame last painted (image rows counted from the top). The GL

@@ -1,12 +1,11 @@
-// The desktop's association of model files, checked with the desktop's own tools under a home of
-// the test's own.
+// The desktop's association of model files, checked with the desktop's own tools in the data and
+// configuration folders of the test run.
 #include "fileassociation.h"
 #include "tempdir.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QProcess>
-#include <QStandardPaths>
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -22,38 +21,17 @@ std::string ToolOutput(const QString& tool, const QStringList& arguments) {
     return process.readAllStandardOutput().trimmed().toStdString();
 }
 
-class EnvironmentValue {
-public:
-    EnvironmentValue(const char* name, const QByteArray& value)
-        : name_(name), old_(qgetenv(name)), had_(qEnvironmentVariableIsSet(name)) {
-        qputenv(name, value);
-    }
-    ~EnvironmentValue() {
-        if (had_)
-            qputenv(name_, old_);
-        else
-            qunsetenv(name_);
-    }
-
-private:
-    const char* name_;
-    QByteArray old_;
-    bool had_;
-};
-
 } // namespace
 
 TEST(FileAssociation, ModelFilesOpenWithThisProgramOnTheDesktop) {
-    TempDir home;
-    const QByteArray root = QByteArray::fromStdString(home.path().string());
-    const EnvironmentValue homeValue("HOME", root);
-    const EnvironmentValue data("XDG_DATA_HOME", root + "/data");
-    const EnvironmentValue config("XDG_CONFIG_HOME", root + "/config");
-    // The desktop's own file type lookup, which reads the user's type database.
-    const EnvironmentValue desktop("XDG_CURRENT_DESKTOP", "GNOME");
+    // The run's own data and configuration folders, and the desktop's own file type lookup,
+    // which reads the user's type database.
+    const QString data = qEnvironmentVariable("XDG_DATA_HOME");
+    qputenv("XDG_CURRENT_DESKTOP", "GNOME");
+    TempDir folder;
 
     WriteFileAssociation();
-    const QString entry = QString::fromUtf8(root) + "/data/applications/skylathe.desktop";
+    const QString entry = data + "/applications/skylathe.desktop";
     const QDateTime written = QFileInfo(entry).lastModified();
     EXPECT_EQ(ToolOutput("desktop-file-validate", {entry}), "");
     std::ifstream text(entry.toStdString());
@@ -62,14 +40,13 @@ TEST(FileAssociation, ModelFilesOpenWithThisProgramOnTheDesktop) {
                             DesktopCommand(QCoreApplication::applicationFilePath()).toStdString()),
               std::string::npos);
 
-    std::ofstream(home.file("PLANEF.MOX")) << "model";
-    std::ofstream(home.file("plane.moy")) << "model";
-    EXPECT_EQ(ToolOutput("xdg-mime",
-                         {"query", "filetype", QString::fromStdString(home.file("PLANEF.MOX"))}),
-              "application/x-skylathe-mox");
-    EXPECT_EQ(ToolOutput("xdg-mime",
-                         {"query", "filetype", QString::fromStdString(home.file("plane.moy"))}),
-              "application/x-skylathe-moy");
+    for (const auto& [name, type] : {std::pair{"PLANEF.MOX", "application/x-skylathe-mox"},
+                                     std::pair{"plane.moy", "application/x-skylathe-moy"}}) {
+        std::ofstream(folder.file(name)) << "model";
+        EXPECT_EQ(ToolOutput("xdg-mime",
+                             {"query", "filetype", QString::fromStdString(folder.file(name))}),
+                  type);
+    }
     EXPECT_EQ(ToolOutput("xdg-mime", {"query", "default", "application/x-skylathe-mox"}),
               "skylathe.desktop");
 

@@ -38,25 +38,22 @@ void ExpectSkyEverywhere(const QImage& frame, const char* what) {
 TEST_F(EditorTest, AFrameWithNothingToPaintIsTheSkyColourInEveryView) {
     ASSERT_TRUE(WaitForFrames(2));
     ExpectSkyEverywhere(GrabShownFrame(), "shown frame");
+    ExpectSkyEverywhere(ReadFrame(), "perspective frame");
     model& current = CurrentModel();
-    const std::pair<const char*, std::function<void()>> rows[] = {
-        {"perspective frame", [] {}},
-        {"frame of a .moy load", [&] { current.M_Type = kMoyLoaded; }},
-        {"a family without files", [&] { current.M_Type = kMoxLoaded; }},
-        {"a current file beyond the family",
-         [&] {
-             current.Files.resize(2);
-             current.m_currmox = 5;
-             View().chk_thismox = true;
-         }},
-        {"a negative current file", [&] { current.m_currmox = -1; }},
-        {"a family shorter than its slots", [] { View().chk_thismox = false; }},
-        {"top view frame", [] { View().ViewMode = kTopView; }},
-    };
-    for (const auto& [what, change] : rows) {
-        change();
-        ExpectSkyEverywhere(ReadFrame(), what);
-    }
+    current.M_Type = kMoyLoaded;
+    ExpectSkyEverywhere(ReadFrame(), "frame of a .moy load");
+    current.M_Type = kMoxLoaded; // and not one file in Files
+    ExpectSkyEverywhere(ReadFrame(), "a family without files");
+    current.Files.resize(2);
+    current.m_currmox = 5;
+    View().chk_thismox = true;
+    ExpectSkyEverywhere(ReadFrame(), "a current file beyond the family");
+    current.m_currmox = -1;
+    ExpectSkyEverywhere(ReadFrame(), "a negative current file");
+    View().chk_thismox = false;
+    ExpectSkyEverywhere(ReadFrame(), "a family shorter than its slots");
+    View().ViewMode = kTopView;
+    ExpectSkyEverywhere(ReadFrame(), "top view frame");
 }
 
 TEST_F(EditorTest, AViewOfHeightZeroGetsAViewportOfHeightOne) {

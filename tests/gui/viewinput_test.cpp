@@ -12,6 +12,7 @@
 #include <QTest>
 #include <QWheelEvent>
 
+#include <array>
 #include <map>
 #include <optional>
 
@@ -70,7 +71,7 @@ FileRecord PickScene() {
     return file.record;
 }
 
-// A square of a connected file, placed at the main file's hardpoint 3, to the lower right.
+// The square of a connected file, placed at one of the main file's hardpoints.
 FileRecord ConnectedSquare() {
     TestFile file;
     file.AddElement({Polygon(kTextured, file.AddSquare(0, 0, 10))});
@@ -96,13 +97,19 @@ TEST_F(ViewInputTest, ClickSelectsByTabAndRanksByDepth) {
         {"back face", 3, Point3{0, 0, -30}, -1, -1, kUntouched},
         {"line", 3, Point3{-30, 0, -30}, -1, -1, kUntouched},
         {"connected file, under the name each file starts with", 3, Point3{30, 0, -30}, 0, 0, 0},
+        {"file that is not loaded", 3, Point3{-30, 0, 30}, -1, -1, kUntouched},
         {"sky in the Elements tab", 3, std::nullopt, -1, -1, kUntouched},
         {"lower of two nodes, the farther", 4, Point3{0, 0, 0}, 0, 0, 0},
         {"sky in the Nodes tab", 4, std::nullopt, -1, -1, kUntouched},
     };
-    InstallFamily({PickScene(), FileRecord{}, FileRecord{}, ConnectedSquare()});
-    CurrentModel().Files[0].HP[3].X = 30;
-    CurrentModel().Files[0].HP[3].Z = -30;
+    FileRecord unloaded = ConnectedSquare();
+    unloaded.Loaded = false;
+    InstallFamily({PickScene(), unloaded, FileRecord{}, ConnectedSquare()});
+    std::array<Node, 8>& hardpoints = CurrentModel().Files[0].HP;
+    hardpoints[1].X = -30;
+    hardpoints[1].Z = 30;
+    hardpoints[3].X = 30;
+    hardpoints[3].Z = -30;
     View().mnu_v_nodes = true;
     Window().mnu_m_pick_Click();
     for (const Row& row : rows) {
