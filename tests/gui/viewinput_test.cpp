@@ -100,6 +100,8 @@ TEST_F(ViewInputTest, ClickSelectsByTabAndRanksByDepth) {
         {"file that is not loaded", 3, Point3{-30, 0, 30}, -1, -1, kUntouched},
         {"sky in the Elements tab", 3, std::nullopt, -1, -1, kUntouched},
         {"lower of two nodes, the farther", 4, Point3{0, 0, 0}, 0, 0, 0},
+        // Outside the Move tool the axis lines carry no name of their own.
+        {"axis line, under the last node's name", 4, Point3{6, 40, 0}, 0, 33, 33},
         {"sky in the Nodes tab", 4, std::nullopt, -1, -1, kUntouched},
     };
     FileRecord unloaded = ConnectedSquare();
