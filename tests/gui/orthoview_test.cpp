@@ -11,6 +11,7 @@
 
 #include <array>
 #include <cmath>
+#include <vector>
 
 namespace {
 
@@ -155,7 +156,7 @@ TEST_F(EditorTest, EachDrawingCoversTheBoxInItsOwnViewAndSpanZeroFoldsTwo) {
         }
     }
 
-    // Each drawing covers the face of the box its view shows: just inside two of its corners
+    // Each drawing covers the face of the box its view shows: just inside two opposite corners
     // the drawing, just outside them the sky.
     project.Span = 80;
     project.TopLeftY = -40;
@@ -173,12 +174,21 @@ TEST_F(EditorTest, EachDrawingCoversTheBoxInItsOwnViewAndSpanZeroFoldsTwo) {
         const QImage frame = ReadFrame();
         for (const auto& [corner, inward] :
              {std::pair{face.low, 1.0}, std::pair{face.high, -1.0}}) {
-            for (const double step : {2.0, -3.0}) {
-                std::array<double, 3> at = corner;
-                for (size_t axis = 0; axis < 3; ++axis)
-                    at[axis] += face.low[axis] != face.high[axis] ? inward * step : 0.0;
+            // Just inside the corner, then just outside it across each edge in turn.
+            std::array<double, 3> inside = corner;
+            for (size_t axis = 0; axis < 3; ++axis)
+                inside[axis] += face.low[axis] != face.high[axis] ? inward * 2 : 0.0;
+            std::vector<std::pair<std::array<double, 3>, Rgb>> points{{inside, face.colour}};
+            for (size_t axis = 0; axis < 3; ++axis) {
+                if (face.low[axis] == face.high[axis])
+                    continue;
+                std::array<double, 3> outside = inside;
+                outside[axis] = corner[axis] - inward * 3;
+                points.emplace_back(outside, kSky);
+            }
+            for (const auto& [at, colour] : points) {
                 const QPoint pixel = Expected(camera, frame, at);
-                EXPECT_EQ(PixelAt(frame, pixel.x(), pixel.y()), step > 0 ? face.colour : kSky)
+                EXPECT_EQ(PixelAt(frame, pixel.x(), pixel.y()), colour)
                     << camera.name << " view at " << at[0] << "," << at[1] << "," << at[2];
             }
         }
