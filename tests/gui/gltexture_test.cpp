@@ -16,6 +16,8 @@
 #include <GL/gl.h>
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace {
 
 using Bytes = std::vector<uint8_t>;
@@ -48,44 +50,12 @@ Bytes BottomUp(const PcxImage& picture) {
 
 } // namespace
 
-TEST_F(EditorTest, TexturesAreUploadedBottomUpEachUnderANewName) {
+TEST_F(EditorTest, TexturesAreUploadedBottomUpEachUnderANewNameAndWhiteWithoutAPicture) {
     ASSERT_TRUE(OGL().MakeCurrent());
     TempDir folder;
     // Odd widths: the 256-colour texture is as wide as its rows (6), the true-colour one 7 wide.
-    const std::string palette8 = folder.file("wing.pcx");
-    const std::string trueColour = folder.file("tail.pcx");
-    WriteFileBytes(palette8, EncodePcx8(5, 3, TestIndices(5, 3, 8), TestPalette()));
-    WriteFileBytes(trueColour, EncodePcx24(7, 4, TestRgb(7, 4, 8)));
-
-    GLint alignment = 0;
-    glPixelStorei(GL_UNPACK_ALIGNMENT, 4);
-    std::vector<int32_t> names;
-    for (const std::string& path : {palette8, trueColour, palette8}) {
-        SCOPED_TRACE(path);
-        int32_t name = 0;
-        ASSERT_TRUE(LoadGLTexture(path, name, 2));
-        ASSERT_NE(name, 0);
-        names.push_back(name);
-
-        const PcxImage decoded = *ReadPcx(path).picture;
-        EXPECT_EQ(Texture(2)->Pixels(), decoded.rgb);
-        const GLPicture texture = ReadTexture(name);
-        EXPECT_EQ(texture.width, decoded.width);
-        EXPECT_EQ(texture.height, decoded.height);
-        EXPECT_EQ(texture.rgb, BottomUp(decoded));
-
-        glGetIntegerv(GL_UNPACK_ALIGNMENT, &alignment);
-        EXPECT_EQ(alignment, 4);
-    }
-    // Every load has its own name; the earlier ones are kept.
-    EXPECT_NE(names[0], names[2]);
-    EXPECT_EQ(ReadTexture(names[0]).rgb, ReadTexture(names[2]).rgb);
-    EXPECT_TRUE(host.messages.empty());
-}
-
-TEST_F(EditorTest, AFileThatIsNoPictureGivesAWhiteTexture) {
-    ASSERT_TRUE(OGL().MakeCurrent());
-    TempDir folder;
+    WriteFileBytes(folder.file("wing.pcx"), EncodePcx8(5, 3, TestIndices(5, 3, 8), TestPalette()));
+    WriteFileBytes(folder.file("tail.pcx"), EncodePcx24(7, 4, TestRgb(7, 4, 8)));
     Bytes deep = EncodePcx8(4, 4, TestIndices(4, 4, 1), TestPalette());
     Bytes unmarked = deep;
     deep[3] = 4;
@@ -93,22 +63,36 @@ TEST_F(EditorTest, AFileThatIsNoPictureGivesAWhiteTexture) {
     WriteFileBytes(folder.file("deep.pcx"), deep);
     WriteFileBytes(folder.file("unmarked.pcx"), unmarked);
 
-    for (const std::string& path :
-         {folder.file("deep.pcx"), folder.file("unmarked.pcx"), folder.file("missing.pcx")}) {
-        SCOPED_TRACE(path);
+    glPixelStorei(GL_UNPACK_ALIGNMENT, 4);
+    std::vector<int32_t> names;
+    for (const char* file :
+         {"wing.pcx", "tail.pcx", "wing.pcx", "deep.pcx", "unmarked.pcx", "missing.pcx"}) {
+        SCOPED_TRACE(file);
+        const std::string path = folder.file(file);
         int32_t name = 0;
-        EXPECT_TRUE(LoadGLTexture(path, name, 0));
+        ASSERT_TRUE(LoadGLTexture(path, name, 2));
+        names.push_back(name);
+        const std::optional<PcxImage> decoded = ReadPcx(path).picture;
+        // The picture stays in the store for the texture window.
+        EXPECT_EQ(Texture(2)->HasPicture() ? Texture(2)->Pixels() : Bytes{},
+                  decoded ? decoded->rgb : Bytes{});
         const GLPicture texture = ReadTexture(name);
-        EXPECT_EQ(texture.width, 1);
-        EXPECT_EQ(texture.height, 1);
-        EXPECT_EQ(texture.rgb, (Bytes{255, 255, 255}));
-        EXPECT_FALSE(Texture(0)->HasPicture());
+        const GLPicture expected =
+            decoded ? GLPicture{decoded->width, decoded->height, BottomUp(*decoded)}
+                    : GLPicture{1, 1, {255, 255, 255}};
+        EXPECT_EQ(std::tie(texture.width, texture.height, texture.rgb),
+                  std::tie(expected.width, expected.height, expected.rgb));
+        GLint alignment = 0;
+        glGetIntegerv(GL_UNPACK_ALIGNMENT, &alignment);
+        EXPECT_EQ(alignment, 4);
     }
+    // Every load has its own name; the earlier ones are kept.
+    EXPECT_NE(names[0], names[2]);
+    EXPECT_EQ(ReadTexture(names[0]).rgb, ReadTexture(names[2]).rgb);
     EXPECT_EQ(host.messages,
               (std::vector<std::string>{
                   "Sorry, can't load " + folder.file("deep.pcx") + "!",
                   "The PCX that was passed didn't have a 256 colour palette! Can't read it!"}));
-
     int32_t name = 0;
     EXPECT_FALSE(LoadGLTexture(folder.file("deep.pcx"), name, kImageStoreCount));
 }
