@@ -28,6 +28,16 @@ public:
     FileRecord record;
 };
 
+// A polygon kind mapped with the file's texture, and a state code that shows a piggyback in one
+// pilot state only.
+constexpr uint8_t kTextured = 5;
+constexpr uint8_t kCodePilot = 146;
+inline const Rgb kWhite{255, 255, 255};
+inline const Rgb kBlack{0, 0, 0};
+inline const Rgb kRed{255, 0, 0};
+inline const Rgb kGreen{0, 255, 0};
+inline const Rgb kBlue{0, 0, 255};
+
 // A polygon of `type` over these nodes, its map spanning the whole texture.
 Piggyback Polygon(uint8_t type, const std::vector<uint8_t>& nodes, uint8_t cod = 0,
                   uint8_t flag = 0);

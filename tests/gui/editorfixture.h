@@ -57,5 +57,8 @@ struct Rgb {
         return red == other.red && green == other.green && blue == other.blue;
     }
 };
+// The start sky colour 178, 229, 255 divided by 256, as an 8-bit buffer holds it:
+// round(178 / 256 * 255) = 177, round(229 / 256 * 255) = 228, round(255 / 256 * 255) = 254.
+inline const Rgb kStartSky{177, 228, 254};
 Rgb PixelAt(const QImage& image, int x, int y);
 void PrintTo(const Rgb& colour, std::ostream* out);

@@ -10,43 +10,27 @@
 
 #include <GL/gl.h>
 
-#include <cmath>
 #include <limits>
 
 namespace {
 
-constexpr int kTextured = 5;
-constexpr uint8_t kCodePilot = 146;
 constexpr int kColourTolerance = 6;
 
 bool Near(const Rgb& a, const Rgb& b) {
     return Near(a, b, kColourTolerance);
 }
 
-Rgb SkyPixel() {
-    const Colour& sky = Program().SkyColour;
-    const auto eightBits = [](int value) {
-        return static_cast<int>(std::lround(value / 256.0 * 255));
-    };
-    return {eightBits(sky.red), eightBits(sky.green), eightBits(sky.blue)};
-}
-
 Rgb At(const QImage& frame, const QPoint& point) {
     return PixelAt(frame, point.x(), point.y());
 }
 
-const Rgb kWhite{255, 255, 255};
-const Rgb kBlack{0, 0, 0};
-const Rgb kRed{255, 0, 0};
-const Rgb kBlue{0, 0, 255};
 const Rgb kOrange{255, 128, 38};
 
 // The run of pixels that are not sky through `centre`, along its row or along its column.
 int RunThrough(const QImage& frame, const QPoint& centre, bool alongRow = true) {
-    const Rgb sky = SkyPixel();
     const QPoint step = alongRow ? QPoint(1, 0) : QPoint(0, 1);
     const auto notSky = [&](const QPoint& at) {
-        return frame.rect().contains(at) && !Near(At(frame, at), sky);
+        return frame.rect().contains(at) && !Near(At(frame, at), kStartSky);
     };
     int run = 1;
     for (QPoint at = centre - step; notSky(at); at -= step)
@@ -80,8 +64,8 @@ TEST_F(EditorTest, AFileWithoutElementsPaintsItsNodesSizedByTheLineWeight) {
     // Without the nodes nothing is left but sky.
     View().mnu_v_nodes = false;
     const QImage empty = ReadFrame();
-    EXPECT_EQ(At(empty, plain), SkyPixel());
-    EXPECT_EQ(At(empty, selected), SkyPixel());
+    EXPECT_EQ(At(empty, plain), kStartSky);
+    EXPECT_EQ(At(empty, selected), kStartSky);
 }
 
 TEST_F(EditorTest, StateCodesHidePolygonsButNotHardpoints) {
@@ -118,8 +102,8 @@ TEST_F(EditorTest, OutlinesSelectionAndCulling) {
     const QPoint edge = OnScreen(-30, 0, 0);
     EXPECT_TRUE(Near(At(frame, centre), texture)) << ::testing::PrintToString(At(frame, centre));
     EXPECT_TRUE(Near(At(frame, edge), texture));
-    EXPECT_EQ(At(frame, OnScreen(20, 0, 0)), SkyPixel());
-    EXPECT_EQ(At(frame, OnScreen(0, 0, 25)), SkyPixel());
+    EXPECT_EQ(At(frame, OnScreen(20, 0, 0)), kStartSky);
+    EXPECT_EQ(At(frame, OnScreen(0, 0, 25)), kStartSky);
 
     // Face outlines paint the front face's edges in white over the texture.
     View().mnu_v_faces = true;
@@ -137,7 +121,7 @@ TEST_F(EditorTest, OutlinesSelectionAndCulling) {
     // In another file's selection it is only an outline in the line colour.
     CurrentModel().m_currmox = 1;
     frame = ReadFrame();
-    EXPECT_EQ(At(frame, centre), SkyPixel());
+    EXPECT_EQ(At(frame, centre), kStartSky);
     EXPECT_TRUE(Near(At(frame, edge), kWhite));
 }
 
@@ -153,9 +137,9 @@ TEST_F(EditorTest, AxisLinesAreTenUnitsLongAtEveryZoom) {
         CurrentModel().m_zoom = zoom;
         const QImage frame = ReadFrame();
         EXPECT_TRUE(Near(At(frame, OnScreen(4.5, 0, -5)), kRed)) << "zoom " << zoom;
-        EXPECT_EQ(At(frame, OnScreen(5.5, 0, -5)), SkyPixel()) << "zoom " << zoom;
+        EXPECT_EQ(At(frame, OnScreen(5.5, 0, -5)), kStartSky) << "zoom " << zoom;
         EXPECT_TRUE(Near(At(frame, OnScreen(-5, 0, 4.5)), kBlue)) << "zoom " << zoom;
-        EXPECT_EQ(At(frame, OnScreen(-5, 0, 5.5)), SkyPixel()) << "zoom " << zoom;
+        EXPECT_EQ(At(frame, OnScreen(-5, 0, 5.5)), kStartSky) << "zoom " << zoom;
     }
     // The X line is ticked, so it is 2 pixels wider than the line weight; Z is not.
     CurrentModel().m_zoom = -100.0f;
@@ -203,7 +187,7 @@ TEST_F(EditorTest, BrokenPiggybacksAreAbandonedAndLaterOnesStillPaint) {
     EXPECT_TRUE(Near(At(frame, OnScreen(20, 0, 0)), kWhite));
     EXPECT_TRUE(Near(At(frame, OnScreen(20, 0, 20)), kWhite));
     // Each abandoned square lost its first painted corner, so nothing of it shows.
-    EXPECT_EQ(At(frame, OnScreen(-20, 0, -3)), SkyPixel());
+    EXPECT_EQ(At(frame, OnScreen(-20, 0, -3)), kStartSky);
 
     ASSERT_TRUE(OGL().MakeCurrent());
     const DrawSettings settings = DrawSettingsOf(CurrentFrameSource());

@@ -19,17 +19,13 @@
 
 namespace {
 
-// The start sky colour 178, 229, 255 divided by 256, as an 8-bit buffer holds it:
-// round(178 / 256 * 255) = 177, round(229 / 256 * 255) = 228, round(255 / 256 * 255) = 254.
-const Rgb kStartSkyInEightBits{177, 228, 254};
-
 void ExpectSkyEverywhere(const QImage& frame, const char* what) {
     ASSERT_FALSE(frame.isNull()) << what;
     const int right = frame.width() - 1;
     const int bottom = frame.height() - 1;
     for (const QPoint& at : {QPoint(0, 0), QPoint(right, 0), QPoint(0, bottom),
                              QPoint(right, bottom), QPoint(right / 2, bottom / 2)})
-        EXPECT_EQ(PixelAt(frame, at.x(), at.y()), kStartSkyInEightBits)
+        EXPECT_EQ(PixelAt(frame, at.x(), at.y()), kStartSky)
             << what << " at " << at.x() << "," << at.y();
 }
 

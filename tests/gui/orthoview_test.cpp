@@ -16,14 +16,8 @@
 namespace {
 
 constexpr float kStartZoom = 125.0f;
-constexpr int kTextured = 5;
 constexpr int16_t kMarkerDistance = 40;
-const Rgb kWhite{255, 255, 255};
-const Rgb kRed{255, 0, 0};
-const Rgb kGreen{0, 255, 0};
-const Rgb kBlue{0, 0, 255};
 const Rgb kYellow{255, 255, 0};
-const Rgb kSky{177, 228, 254};
 
 using Axis = std::array<int, 3>;
 
@@ -139,9 +133,9 @@ TEST_F(EditorTest, EachDrawingCoversTheBoxInItsOwnViewAndSpanZeroFoldsTwo) {
     project.TopLeftZ = 30;
     // Drawings by view: Top, Left, Front, Underside, Right, Back.
     const std::pair<int16_t, std::array<Rgb, 6>> rows[] = {
-        {80, {kRed, kBlue, kGreen, kSky, kSky, kSky}},
+        {80, {kRed, kBlue, kGreen, kStartSky, kStartSky, kStartSky}},
         // The Top and Front drawings fold to a line; the Left one stays.
-        {0, {kSky, kBlue, kSky, kSky, kSky, kSky}},
+        {0, {kStartSky, kBlue, kStartSky, kStartSky, kStartSky, kStartSky}},
     };
     for (const auto& [span, seen] : rows) {
         project.Span = span;
@@ -184,7 +178,7 @@ TEST_F(EditorTest, EachDrawingCoversTheBoxInItsOwnViewAndSpanZeroFoldsTwo) {
                     continue;
                 std::array<double, 3> outside = inside;
                 outside[axis] = corner[axis] - inward * 3;
-                points.emplace_back(outside, kSky);
+                points.emplace_back(outside, kStartSky);
             }
             for (const auto& [at, colour] : points) {
                 const QPoint pixel = Expected(camera, frame, at);
@@ -205,6 +199,6 @@ TEST_F(EditorTest, EachDrawingCoversTheBoxInItsOwnViewAndSpanZeroFoldsTwo) {
         const QPoint model = Expected(top, frame, {0, 0, 0});
         const QPoint drawing = Expected(top, frame, {30, 30, 0});
         EXPECT_EQ(PixelAt(frame, model.x(), model.y()), kYellow);
-        EXPECT_EQ(PixelAt(frame, drawing.x(), drawing.y()), picking ? kSky : kRed);
+        EXPECT_EQ(PixelAt(frame, drawing.x(), drawing.y()), picking ? kStartSky : kRed);
     }
 }

@@ -47,7 +47,7 @@ TEST_F(EditorTest, TheSampleFighterOpensAssembledAndTexturedAndYesSavesEveryFile
     EXPECT_EQ(opened.m_currelem, -1);
 
     const QImage frame = ReadFrame();
-    EXPECT_EQ(PixelAt(frame, 10, 10), (Rgb{177, 228, 254})) << "sky";
+    EXPECT_EQ(PixelAt(frame, 10, 10), kStartSky) << "sky";
     // Points on the right side of the fighter as the load's camera sees it (nose to the right,
     // gear down): a blank texture would paint them white, a connected file out of place sky.
     const Landmark landmarks[] = {

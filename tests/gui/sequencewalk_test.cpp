@@ -16,9 +16,7 @@
 
 namespace {
 
-constexpr int kTextured = 5;
 constexpr int16_t kUnitNormal = 16384;
-const Rgb kSky{177, 228, 254};
 // Element 0 red, 1 green, 2 blue: the texels of a strip texture, one per element.
 const std::vector<Rgb> kElementColours{{255, 0, 0}, {0, 255, 0}, {0, 0, 255}};
 constexpr std::array<uint8_t, 3> kTexelMap{42, 127, 212};
@@ -106,7 +104,7 @@ TEST_F(EditorTest, TheTreeOrdersItsElementsByTheSideOfThePlaneTheEyeIsOn) {
             const int later =
                 painted(overlap.first) > painted(overlap.second) ? overlap.first : overlap.second;
             const Rgb expected =
-                row.order.empty() ? kSky : kElementColours[static_cast<size_t>(later)];
+                row.order.empty() ? kStartSky : kElementColours[static_cast<size_t>(later)];
             EXPECT_EQ(PixelAt(frame, at.x(), at.y()), expected)
                 << row.what << ", squares " << overlap.first << " and " << overlap.second;
         }
@@ -130,7 +128,7 @@ TEST_F(EditorTest, APlaneWithoutANormalIsReportedOnceUntilTheSceneChanges) {
     ASSERT_TRUE(OGL().MakeCurrent());
     const QImage frame = ReadFrame();
     const QPoint over = OnScreen(4, 0, 4);
-    EXPECT_EQ(PixelAt(frame, over.x(), over.y()), (Rgb{255, 255, 255}));
+    EXPECT_EQ(PixelAt(frame, over.x(), over.y()), kWhite);
 
     // A change of the scene may say it again; turning the sequence off ends it.
     CurrentModel().m_zoom -= 10.0f;

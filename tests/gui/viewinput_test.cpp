@@ -18,8 +18,6 @@
 
 namespace {
 
-constexpr uint8_t kTextured = 5;
-constexpr uint8_t kCodePilot = 146;
 constexpr uint8_t kPilotDead = 2;
 constexpr int kUntouched = 77;
 constexpr int kNotch = 120;
