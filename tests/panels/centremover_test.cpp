@@ -2,57 +2,38 @@
 // undo, and the dimensions in model units and metres after a rescale.
 #include "centremoverpanel.h"
 #include "currentmodel.h"
-#include "modelinmemory.h"
-#include "recordinghost.h"
+#include "panelfixture.h"
 
-#include <QLineEdit>
-#include <QPushButton>
-#include <QSpinBox>
 #include <QTest>
-#include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
 namespace {
 
-class CentreMoverTest : public ::testing::Test {
+class CentreMoverTest : public PanelTest {
 protected:
     void SetUp() override {
-        ReplaceCurrentModel();
+        PanelTest::SetUp();
         MoxBuilder file;
         // Span 1000 (Y -500 to 500), length 501 (X -200 to 301).
         file.nodes = {Node{-500, 0, -200, 0}, Node{500, 100, 301, 0}, Node{0, -3, 7, 0}};
         file.root = {0, kNoElement};
         file.streams = {StreamBytes().ColouredPoly({0, 1, 2}, 1).End().bytes};
-        OpenInMemory(CurrentModel(), file);
-        frame.show();
+        Open(file);
     }
-    void TearDown() override { ReplaceCurrentModel(); }
-
     Node& NodeAt(int n) { return CurrentModel().Files[0].Nodes[n]; }
-    QSpinBox& Spin(const char* name) { return *frame.findChild<QSpinBox*>(name); }
-    std::string Text(const char* name) {
-        return frame.findChild<QLineEdit*>(name)->text().toStdString();
-    }
-    void Click(const char* name) {
-        QTest::mouseClick(frame.findChild<QPushButton*>(name), Qt::LeftButton);
-    }
     // "x+" and "y-" step a spin, "apply", "undo" and "tab" are the buttons and a showing of the
     // tab.
     void Do(const std::string& action) {
         if (action == "apply" || action == "undo")
             Click(("cmd_5_" + action).c_str());
         else if (action == "tab")
-            panel.TabShown();
+            panels->centreMover().TabShown();
         else
             QTest::keyClick(&Spin(action[0] == 'x' ? "upd_5_x" : "upd_5_y"),
                             action[1] == '+' ? Qt::Key_Up : Qt::Key_Down);
     }
-
-    RecordingHost host;
-    QWidget frame;
-    CentreMoverPanel panel{frame};
 };
 
 struct TotalCase {
@@ -89,8 +70,7 @@ TEST_F(CentreMoverTest, RunningTotalAndItsUndo) {
         EXPECT_EQ(NodeAt(2).X - before.X, c.movedX) << c.what;
         EXPECT_EQ(NodeAt(2).Y - before.Y, c.movedY) << c.what;
         EXPECT_EQ(NodeAt(0).X - first.X, c.movedX) << c.what << ": every node moves";
-        EXPECT_EQ(Spin("upd_5_x").value(), c.spinX) << c.what;
-        EXPECT_EQ(Text("txt_5_x"), std::to_string(c.spinX)) << c.what;
+        EXPECT_EQ(Text("txt_5_x").toInt(), c.spinX) << c.what;
         EXPECT_EQ(host.messages.size(), c.messages) << c.what;
         host.messages.clear();
         Click("cmd_5_apply");
@@ -98,14 +78,12 @@ TEST_F(CentreMoverTest, RunningTotalAndItsUndo) {
 }
 
 TEST_F(CentreMoverTest, DimensionsInUnitsAndMetres) {
-    panel.TabShown();
+    panels->centreMover().TabShown();
     EXPECT_EQ(Text("txt_5_span"), "1000");
     EXPECT_EQ(Text("txt_5_realspan"), "44.8 m");
     EXPECT_EQ(Text("txt_5_length"), "501");
     EXPECT_EQ(Text("txt_5_reallength"), "22.44 m");
-
-    QLineEdit* scale = frame.findChild<QLineEdit*>("txt_5_scale");
-    scale->setText("200");
+    Find<QLineEdit>("txt_5_scale").setText("200");
     Click("cmd_5_scale");
     EXPECT_EQ(Text("txt_5_span"), "2000");
     EXPECT_EQ(Text("txt_5_reallength"), "44.89 m");

@@ -1,6 +1,6 @@
 // The Elements panel driven through its widgets by name: what it shows for each element kind,
-// the lock, the scrolling of a long polygon, the group spins, the buttons and the Enter commit, on
-// a file in memory.
+// the lock, the scrolling of a long polygon, the group spins, the buttons, and the commit of a
+// field with its spin and buddy, on a file in memory.
 #include "currentmodel.h"
 #include "moxreader.h"
 #include "panelfixture.h"
@@ -62,7 +62,6 @@ protected:
     }
     QString Row(const char* column, int r) { return Text(RowName(column, r)); }
     QCheckBox& Select(int r) { return Find<QCheckBox>(RowName("chk_3_select", r)); }
-    QSpinBox& Spin(const char* name) { return Find<QSpinBox>(name); }
     QPushButton& Button(const char* name) { return Find<QPushButton>(name); }
     void Pick(int16_t number) {
         CurrentModel().m_currelem = number;
@@ -83,19 +82,20 @@ struct KindRow {
     int16_t number;
     QString type, att1Caption, xmapHead, node0, xmap0, ymap0, att1, att2;
     int rows;
-    bool cornerButtons;
+    bool cornerButtons, deletePiggyback;
 };
 
 TEST_F(ElementsPanelTest, EachKindShowsItsRowsColumnsAndCaptions) {
     const std::vector<KindRow> kinds = {
-        {0, "1 - Coloured Line", "Colour:", "X Map", "1", "", "", "7", "", 2, false},
-        {1, "2 - Hardpoint", "Code:", "X Map", "3", "", "", "25", "", 1, false},
-        {100, "3 - Coloured Poly", "Colour:", "X Map", "4", "", "", "9", "", 4, true},
-        {200, "4 - Gouraud Poly", "Attrib 1:", "Colour", "1", "11", "", "", "", 3, true},
+        {0, "1 - Coloured Line", "Colour:", "X Map", "1", "", "", "7", "", 2, false, true},
+        {1, "2 - Hardpoint", "Code:", "X Map", "3", "", "", "25", "", 1, false, true},
+        {100, "3 - Coloured Poly", "Colour:", "X Map", "4", "", "", "9", "", 4, true, false},
+        {200, "4 - Gouraud Poly", "Attrib 1:", "Colour", "1", "11", "", "", "", 3, true, false},
         // NULL leaves both captions as the kind before left them.
-        {400, "255 - NULL", "Attrib 1:", "Colour", "", "", "", "", "", 0, true},
-        {300, "5 - Textured Poly", "Attrib 1:", "X Map", "0", "10", "50", "3", "4", 3, true},
-        {301, "6 - Transparent Poly", "Attrib 1:", "X Map", "0", "10", "50", "5", "6", 4, true},
+        {400, "255 - NULL", "Attrib 1:", "Colour", "", "", "", "", "", 0, true, false},
+        {300, "5 - Textured Poly", "Attrib 1:", "X Map", "0", "10", "50", "3", "4", 3, true, true},
+        {301, "6 - Transparent Poly", "Attrib 1:", "X Map", "0", "10", "50", "5", "6", 4, true,
+         true},
     };
     const std::vector<uint8_t> before = SavedBytes(CurrentModel().Files[0]);
     for (const KindRow& kind : kinds) {
@@ -112,6 +112,7 @@ TEST_F(ElementsPanelTest, EachKindShowsItsRowsColumnsAndCaptions) {
         EXPECT_EQ(Text("txt_3_att1"), kind.att1) << at;
         EXPECT_EQ(Text("txt_3_att2"), kind.att2) << at;
         EXPECT_EQ(Button("cmd_3_add").isEnabled(), kind.cornerButtons) << at;
+        EXPECT_EQ(Button("cmd_3_delpb").isEnabled(), kind.deletePiggyback) << at;
         if (kind.rows > 0) {
             EXPECT_EQ(Row("txt_3_x", 0), QString::number(100 + kind.node0.toInt())) << at;
         }
@@ -151,7 +152,6 @@ TEST_F(ElementsPanelTest, LockFreezesNodeNumbersOnlyOnShownRows) {
 TEST_F(ElementsPanelTest, LongPolygonScrollsAndATypedCornerLandsAtItsPosition) {
     Pick(500);
     QScrollBar& bar = Find<QScrollBar>("vsc_3_nodeoffset");
-    EXPECT_TRUE(bar.isEnabled());
     EXPECT_EQ(bar.maximum(), kCorners - 12);
     bar.setValue(5);
     EXPECT_EQ(Find<QLabel>("lbl_offset").text(), "5");
@@ -175,10 +175,8 @@ TEST_F(ElementsPanelTest, GroupSpinsMoveTickedRowsOnly) {
     Spin("upd_3_x").stepBy(3);
     Spin("upd_3_z").stepBy(-1);
     const std::vector<Node>& nodes = CurrentModel().Files[0].Nodes;
-    EXPECT_EQ(nodes[4].X, 107);
-    EXPECT_EQ(nodes[5].X, 105);
-    EXPECT_EQ(nodes[6].X, 109);
-    EXPECT_EQ(nodes[6].Z, 305);
+    EXPECT_EQ(std::vector<int>({nodes[4].X, nodes[5].X, nodes[6].X, nodes[6].Z}),
+              std::vector<int>({107, 105, 109, 305}));
     EXPECT_EQ(Row("txt_3_x", 2), "109");
     // The next step moves by one again, from the spin's last value.
     Spin("upd_3_x").stepBy(1);
@@ -188,62 +186,85 @@ TEST_F(ElementsPanelTest, GroupSpinsMoveTickedRowsOnly) {
 TEST_F(ElementsPanelTest, ButtonsReshapeTheCornersOfTheShownPiggyback) {
     Pick(100);
     Select(1).click();
-    Button("cmd_3_moveup").click();
+    Click("cmd_3_moveup");
     EXPECT_TRUE(Select(0).isChecked());
-    EXPECT_FALSE(Select(1).isChecked());
     Select(0).click();
     Select(0).click();
     EXPECT_FALSE(Button("cmd_3_moveup").isEnabled());
-    Button("cmd_3_add").click();
+    Click("cmd_3_add");
     EXPECT_EQ(EnabledRows(), 5);
     Select(1).click();
     Select(2).click();
-    Button("cmd_3_delete").click();
+    Click("cmd_3_delete");
     EXPECT_EQ(Item(1, 0).NodeList, (std::vector<uint8_t>{5, 7, 0, 0}));
     EXPECT_EQ(host.messages.size(), 1u);
-    EXPECT_FALSE(Select(0).isChecked());
     // Two steps up the Type list make the polygon a hardpoint, then a line.
     QTest::keyClick(&Find<QComboBox>("cbo_3_type"), Qt::Key_Up);
     QTest::keyClick(&Find<QComboBox>("cbo_3_type"), Qt::Key_Up);
     EXPECT_EQ(Item(1, 0).Type, 1);
     EXPECT_EQ(EnabledRows(), 2);
-    EXPECT_FALSE(Button("cmd_3_add").isEnabled());
-    Button("cmd_3_newpb").click();
+    Click("cmd_3_newpb");
     EXPECT_TRUE(Button("cmd_3_delpb").isEnabled());
-    Button("cmd_3_newelem").click();
+    Click("cmd_3_newelem");
     EXPECT_EQ(CurrentModel().Files[0].NumElements, 9);
 }
 
-TEST_F(ElementsPanelTest, OnlyEntryOfAListCannotBeDeleted) {
-    for (const auto& [number, enabled] : std::vector<std::pair<int16_t, bool>>{
-             {100, false}, {300, true}, {301, true}, {400, false}}) {
-        Pick(number);
-        EXPECT_EQ(Button("cmd_3_delpb").isEnabled(), enabled) << number;
-    }
-}
+struct EnterCase {
+    QString typed;
+    Qt::Key last;
+    int stored;
+    QString shown;
+    size_t messages;
+};
 
-TEST_F(ElementsPanelTest, EnterWritesTheRecordAndSelectsElements) {
-    Pick(300);
-    Enter("txt_3_att1", "300");
-    EXPECT_EQ(Item(3, 0).Att1, 255);
-    EXPECT_EQ(Text("txt_3_att1"), "255");
-    Enter("txt_3_flag", "007");
-    EXPECT_EQ(Item(3, 0).Flag, 7);
+// Att1 of piggyback 300 holds 3: Enter checks the characters, snaps to the spin's range and
+// writes; other keys write nothing, and a text that is no number shows the record's value again.
+TEST_F(ElementsPanelTest, EnterCommitsCheckedAndSnappedText) {
+    const std::vector<EnterCase> cases = {
+        {"300", Qt::Key_Return, 255, "255", 0}, {"-5", Qt::Key_Enter, 0, "0", 0},
+        {"007", Qt::Key_Return, 7, "007", 0},   {"12a", Qt::Key_Return, 3, "12a", 1},
+        {"1ab", Qt::Key_Return, 3, "1ab", 2},   {"-", Qt::Key_Return, 3, "3", 0},
+        {"1-2", Qt::Key_Return, 3, "3", 0},     {"", Qt::Key_Return, 3, "3", 0},
+        {"44", Qt::Key_Tab, 3, "44", 0},        {"45", Qt::Key_Escape, 3, "45", 0},
+    };
+    for (const EnterCase& c : cases) {
+        Pick(300);
+        Item(3, 0).Att1 = 3;
+        const size_t before = host.messages.size();
+        Enter("txt_3_att1", c.typed, c.last);
+        EXPECT_EQ(Item(3, 0).Att1, c.stored) << c.typed.toStdString();
+        EXPECT_EQ(Text("txt_3_att1"), c.shown) << c.typed.toStdString();
+        EXPECT_EQ(host.messages.size() - before, c.messages) << c.typed.toStdString();
+    }
+    for (const std::string& message : host.messages)
+        EXPECT_EQ(message, "Invalid Character in Value.  Must be numerical");
+    // A spin step starts from the committed number and writes.
+    Enter("txt_3_att1", "007");
+    QTest::keyClick(&Spin("upd_3_att1"), Qt::Key_Up);
+    EXPECT_EQ(Item(3, 0).Att1, 8);
+    EXPECT_EQ(Text("txt_3_att1"), "8");
+    // A field without a spin snaps to the fixed range.
     Enter("txt_3_y(1)", "-40000");
     EXPECT_EQ(CurrentModel().Files[0].Nodes[1].Y, -32767);
+}
+
+TEST_F(ElementsPanelTest, ListsAndSelectionCommitWithoutAField) {
+    Pick(300);
     for (int row = 0; row < 9; ++row)
         QTest::keyClick(&Find<QComboBox>("cbo_3_action"), Qt::Key_Down);
     EXPECT_EQ(Item(3, 0).COD, 148);
     Enter("txt_3_elem", "2");
     EXPECT_EQ(CurrentModel().m_currelem, 200);
     EXPECT_EQ(Find<QComboBox>("cbo_3_type").currentText(), "4 - Gouraud Poly");
-    Button("cmd_3_nrm_recalc").click();
+    Click("cmd_3_nrm_recalc");
     EXPECT_EQ(host.messages, std::vector<std::string>{"Not Finished Yet"});
+    // With no file open every path is safe and quiet.
+    ReplaceCurrentModel();
+    Enter("txt_3_att1", "12");
+    Spin("upd_3_att1").setValue(30);
+    EXPECT_EQ(Text("txt_3_att1"), "30");
+    EXPECT_EQ(host.messages.size(), 1u);
 }
-
-} // namespace
-
-namespace {
 
 // Thousands of a user's actions on the panel in a seeded random order: after every one the file
 // saves and reads back to the same bytes.
