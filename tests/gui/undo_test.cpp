@@ -4,6 +4,7 @@
 #include "commandline.h"
 #include "currentmodel.h"
 #include "editorfixture.h"
+#include "modelhost.h"
 #include "moxbuilder.h"
 #include "oglgraphics.h"
 #include "tempdir.h"
@@ -33,8 +34,11 @@ protected:
         OpenModelFromCommandLine(fighter);
         Window().activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
+        // A pick in the view selects element 1, and the Elements panel shows it.
         Window().SelectTab(kElementsTab);
-        Enter("txt_3_elem", "1");
+        CurrentModel().m_currelem = 100;
+        Host().ShowPickedPiggyback(100);
+        ASSERT_EQ(Find<QLineEdit>("txt_3_elem")->text(), "1");
     }
     // A key pressed as the keyboard sends it: to the widget that has the focus.
     void Keys(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {

@@ -20,21 +20,23 @@ public:
         return MessageAnswer::Ok;
     }
     void SetSpinValue(const std::string& name, int value) override {
-        if (auto* spin = pane_.findChild<QSpinBox*>(QString::fromStdString(name)))
+        if (QSpinBox* spin = Named(name))
             spin->setValue(value);
     }
     int SpinValue(const std::string& name) override {
-        const auto* spin = pane_.findChild<QSpinBox*>(QString::fromStdString(name));
-        return spin != nullptr ? spin->value() : 0;
+        return Named(name) != nullptr ? Named(name)->value() : 0;
     }
     void SetSpinMaximum(const std::string& name, int maximum) override {
-        if (auto* spin = pane_.findChild<QSpinBox*>(QString::fromStdString(name)))
+        if (QSpinBox* spin = Named(name))
             spin->setMaximum(maximum);
     }
     void FillPanel(int32_t tab) override { panels_.FillPanel(tab); }
     void ShowPickedPiggyback(int16_t number) override { panels_.elements().TakePick(number); }
 
 private:
+    QSpinBox* Named(const std::string& name) const {
+        return pane_.findChild<QSpinBox*>(QString::fromStdString(name));
+    }
     QWidget& pane_;
     const EditPanels& panels_;
 };

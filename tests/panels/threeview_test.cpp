@@ -11,20 +11,14 @@
 #include <QPlainTextEdit>
 #include <QTest>
 
+#include <array>
 #include <deque>
 
 namespace {
 
-struct MetresCase {
-    const char* field; // the stem of the three fields
-    const char* typed;
-    const char* units;
-    const char* metres;
-    const char* feetInches;
-};
-
 TEST_F(PanelTest, MetresTypedGiveUnitsFeetAndInches) {
-    const MetresCase cases[] = {
+    // The stem of the three fields, the text typed, then units, metres, feet and inches shown.
+    const std::array<const char*, 5> cases[] = {
         {"span", "4.48", "100", "4.48 m", "14' 8\""},
         {"span", "10", "223", "9.99 m", "32' 8\""},
         {"length", "4.48 m", "100", "4.48 m", "14' 8\""},
@@ -35,12 +29,12 @@ TEST_F(PanelTest, MetresTypedGiveUnitsFeetAndInches) {
         {"height", "-1", "-22", "-0.99 m", "-3' 3\""},
         {"height", "no number", "0", "0 m", "0' 0\""},
     };
-    for (const MetresCase& c : cases) {
-        const QByteArray stem = QByteArray("txt_7_") + c.field;
-        Enter(stem + "_m", c.typed);
-        EXPECT_EQ(Text(stem).toStdString(), c.units) << c.typed;
-        EXPECT_EQ(Text(stem + "_m").toStdString(), c.metres) << c.typed;
-        EXPECT_EQ(Text(stem + "_i").toStdString(), c.feetInches) << c.typed;
+    for (const auto& [field, typed, units, metres, feetInches] : cases) {
+        const QByteArray stem = QByteArray("txt_7_") + field;
+        Enter(stem + "_m", typed);
+        EXPECT_EQ(QStringList({Text(stem), Text(stem + "_m"), Text(stem + "_i")}),
+                  QStringList({units, metres, feetInches}))
+            << typed;
     }
     EXPECT_EQ(Program().ProjectData.Length, 27);
 }
