@@ -5,6 +5,8 @@
 
 #include <QComboBox>
 
+#include <tuple>
+
 namespace {
 
 TEST_F(PanelTest, ModelInfoFillShowsTheHeadAndSetsTheChoosers) {
@@ -26,16 +28,13 @@ TEST_F(PanelTest, ModelInfoFillShowsTheHeadAndSetsTheChoosers) {
 
 TEST_F(PanelTest, RadiusAndTextureCommitOnEnter) {
     model& current = Open(SmallFile());
-    struct Row {
-        QString typed;
-        int16_t radius;
-        QString shown;
-    };
-    for (const Row& row : {Row{"-250", -250, "-250"}, Row{"12-3", 12, "12-3"}, Row{"-", 12, "12"},
-                           Row{"40000", 32767, "32767"}}) {
-        Enter("txt_1_radius", row.typed);
-        EXPECT_EQ(current.Files[0].Radius, row.radius) << row.typed.toStdString();
-        EXPECT_EQ(Text("txt_1_radius"), row.shown) << row.typed.toStdString();
+    // Typed, then stored and shown.
+    const std::tuple<QString, int16_t, QString> rows[] = {
+        {"-250", -250, "-250"}, {"12-3", 12, "12-3"}, {"-", 12, "12"}, {"40000", 32767, "32767"}};
+    for (const auto& [typed, radius, shown] : rows) {
+        Enter("txt_1_radius", typed);
+        EXPECT_EQ(current.Files[0].Radius, radius) << typed.toStdString();
+        EXPECT_EQ(Text("txt_1_radius"), shown) << typed.toStdString();
     }
     const TextureName& texture = current.Files[0].Texture;
     for (const char* typed : {"NEW 2.TPC", ""}) {

@@ -12,7 +12,6 @@
 #include <QTest>
 
 #include <array>
-#include <deque>
 
 namespace {
 
@@ -40,27 +39,27 @@ TEST_F(PanelTest, MetresTypedGiveUnitsFeetAndInches) {
 }
 
 TEST_F(PanelTest, ProjectMadeFromThePanelReadsBack) {
-    std::deque<QString> answers;
+    TempDir folder;
+    const std::string file = folder.file("traced.3Vw");
+    const QString sample(SAMPLE_DIR);
+    const char* drawings[] = {"/PDEMO_LEFT.PCX", "/PDEMO_TOP.PCX", "/PDEMO_FRONT.PCX"};
+    // The drawings of views 1, 2 and 0, then a cancelled and an answered question of the file.
+    const QString answers[] = {sample + drawings[1], sample + drawings[2], sample + drawings[0], "",
+                               QString::fromStdString(file)};
     std::vector<std::string> asked;
     panels->threeView().AskForFile = [&](const ThreeViewPanel::FileQuestion& question) {
         asked.push_back(std::string(question.title) + " | " + question.filter);
-        const QString answer = answers.front();
-        answers.pop_front();
-        return answer;
+        return answers[asked.size() - 1];
     };
     host.answers = {MessageAnswer::Yes};
     std::string fighter = std::string(SAMPLE_DIR) + "/PDEMOF.MOX";
     CurrentModel().Load(fighter);
-    TempDir folder;
-    const QString sample(SAMPLE_DIR);
     Click("cmd_7_frommodel");
     Click("cmd_7_minimums");
     Enter("txt_7_span_m", "10");
     QTest::keyClicks(&Find<QLineEdit>("txt_7_maxz"), "99999");
-    const char* drawings[] = {"/PDEMO_LEFT.PCX", "/PDEMO_TOP.PCX", "/PDEMO_FRONT.PCX"};
     for (int view : {1, 2, 0}) {
         Find<QComboBox>("cbo_7_view").setCurrentIndex(view);
-        answers.push_back(sample + drawings[view]);
         Click("cmd_7_select");
     }
     Find<QComboBox>("cbo_7_view").setCurrentIndex(1);
@@ -70,8 +69,6 @@ TEST_F(PanelTest, ProjectMadeFromThePanelReadsBack) {
     QTest::keyClick(&notes, Qt::Key_Return);
     QTest::keyClicks(&notes, "Gear down");
 
-    const std::string file = folder.file("traced.3Vw");
-    answers = {"", QString::fromStdString(file)};
     Click("cmd_7_createproject");
     Click("cmd_7_createproject");
     ASSERT_EQ(asked.size(), 5u);
