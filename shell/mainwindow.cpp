@@ -13,6 +13,7 @@
 #include "stepcloser.h"
 #include "texturewindow.h"
 #include "toolbarimages.h"
+#include "undokeys.h"
 #include "viewsettings.h"
 
 #include <QAction>
@@ -81,6 +82,7 @@ frm_main::frm_main() {
     BuildPanes();
     BuildTextureWindow();
     qApp->installEventFilter(new StepCloser(this));
+    qApp->installEventFilter(new UndoKeys({Entry("mnu_e_undo"), Entry("mnu_e_redo")}, this));
     ShowJournal();
     resize(kClientWidth,
            kClientHeight + menuBar()->sizeHint().height() + tlb_main->sizeHint().height());

@@ -3,8 +3,10 @@
 #include "currentmodel.h"
 #include "elementspanel.h"
 #include "modelinmemory.h"
+#include "programstate.h"
 #include "viewsettings.h"
 
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QSpinBox>
 #include <QTest>
@@ -18,21 +20,23 @@ public:
         return MessageAnswer::Ok;
     }
     void SetSpinValue(const std::string& name, int value) override {
-        if (auto* spin = pane_.findChild<QSpinBox*>(QString::fromStdString(name)))
+        if (QSpinBox* spin = Named(name))
             spin->setValue(value);
     }
     int SpinValue(const std::string& name) override {
-        const auto* spin = pane_.findChild<QSpinBox*>(QString::fromStdString(name));
-        return spin != nullptr ? spin->value() : 0;
+        return Named(name) != nullptr ? Named(name)->value() : 0;
     }
     void SetSpinMaximum(const std::string& name, int maximum) override {
-        if (auto* spin = pane_.findChild<QSpinBox*>(QString::fromStdString(name)))
+        if (QSpinBox* spin = Named(name))
             spin->setMaximum(maximum);
     }
     void FillPanel(int32_t tab) override { panels_.FillPanel(tab); }
     void ShowPickedPiggyback(int16_t number) override { panels_.elements().TakePick(number); }
 
 private:
+    QSpinBox* Named(const std::string& name) const {
+        return pane_.findChild<QSpinBox*>(QString::fromStdString(name));
+    }
     QWidget& pane_;
     const EditPanels& panels_;
 };
@@ -41,6 +45,7 @@ PanelTest::PanelTest() = default;
 PanelTest::~PanelTest() = default;
 
 void PanelTest::SetUp() {
+    ResetProgramState();
     ReplaceCurrentModel();
     ResetViewSettings();
     pane_ = std::make_unique<QWidget>();
@@ -70,11 +75,24 @@ model& PanelTest::Open(const MoxBuilder& file) {
     return CurrentModel();
 }
 
-void PanelTest::Enter(const char* name, const QString& text) {
+MoxBuilder PanelTest::SmallFile(int nodes, int parts) {
+    MoxBuilder file;
+    file.parts.resize(static_cast<size_t>(parts));
+    file.nodes.resize(static_cast<size_t>(nodes));
+    file.root = {0, kNoElement};
+    file.streams = {StreamBytes().Hardpoint(27, 0).End().bytes};
+    return file;
+}
+
+void PanelTest::Enter(const char* name, const QString& text, Qt::Key last) {
     auto& field = Find<QLineEdit>(name);
     field.clear();
     QTest::keyClicks(&field, text);
-    QTest::keyClick(&field, Qt::Key_Return);
+    QTest::keyClick(&field, last);
+}
+
+void PanelTest::Click(const char* name) const {
+    QTest::mouseClick(&Find<QAbstractButton>(name), Qt::LeftButton);
 }
 
 void PanelTest::Choose(const char* name, int row) {
