@@ -127,8 +127,7 @@ void ReadElements(MoxInput& file, FileRecord& record) {
             // few such lists, one blank entry stands for the rest.
             const int64_t entries =
                 fullBlankLists < kFullBlankListsAfterClose
-                    ? std::clamp<int64_t>(kMaxEntriesPerRecord - entriesHeld, 1,
-                                          kMaxPiggybacks + 1)
+                    ? std::clamp<int64_t>(kMaxEntriesPerRecord - entriesHeld, 1, kMaxPiggybacks + 1)
                     : 1;
             fullBlankLists += entries > 1 ? 1 : 0;
             AppendBlanks(list, i, entries);
@@ -141,8 +140,8 @@ void ReadElements(MoxInput& file, FileRecord& record) {
         for (int j = 0; !ended; ++j) {
             if (file.RunOut()) {
                 // The list grows with blank entries until one of the limits below stops it.
-                const int64_t entries = std::min<int64_t>(kMaxPiggybacks + 1 - j,
-                                                          kMaxEntriesPerRecord - entriesHeld);
+                const int64_t entries =
+                    std::min<int64_t>(kMaxPiggybacks + 1 - j, kMaxEntriesPerRecord - entriesHeld);
                 AppendBlanks(list, i, entries);
                 entriesHeld += entries;
                 ShowMessage(kTooManyEntries + std::to_string(i));

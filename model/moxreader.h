@@ -8,8 +8,9 @@
 #include <string>
 #include <vector>
 
-// The most piggybacks one record holds: 255 elements of 256 entries, more than any tree the
-// program can walk. A damaged file that would make the record hold more is cut off there.
+// The most piggybacks one record holds: 64 lists of 256. Streams start in the first 32 kB of a
+// file and an entry takes at least two bytes of one, so only a file whose elements share streams
+// can hold more; such a file is cut off there.
 constexpr int64_t kMaxEntriesPerRecord = 64 * (kMaxPiggybacks + 1);
 
 // After the reading of a file has stopped, this many of the later elements get a full list of

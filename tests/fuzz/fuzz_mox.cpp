@@ -10,11 +10,12 @@ namespace {
 constexpr size_t kCountsAt = 16;
 constexpr size_t kCountsEnd = 22;
 
-// Each count becomes a 12-bit signed number of the same low bits. The reader's handling of a
-// count depends on its sign and on whether its tables fit the file, the stream offsets and the
-// 16-bit entry numbers, all of which this range still crosses; counts up to 32767 only repeat the
-// same work per element many times over, so that a run would try a few thousand inputs rather
-// than tens of thousands.
+// Each count becomes the 10-bit signed number of its low bits, -512 to 511. What the reader and
+// writer do with a count turns on its sign, on whether its tables fit the file and its streams
+// start below 32 kB, and on whether entry numbers (element * 100 + position) fit 16 bits, and this
+// range crosses all of those; larger counts only repeat the same work per element, so that a run
+// would try a few thousand inputs instead of tens of thousands. The model tests read the largest
+// counts.
 void FoldCounts(std::vector<uint8_t>& bytes) {
     for (size_t at = kCountsAt; at + 1 < kCountsEnd && at + 1 < bytes.size(); at += 2) {
         const auto high = static_cast<uint8_t>(bytes[at + 1] & 0x03);
