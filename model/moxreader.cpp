@@ -103,26 +103,34 @@ void SetNumber(Piggyback& entry, int element, int position) {
         entry.Number = static_cast<int16_t>(number);
 }
 
-// Once the file is closed nothing more can be read, and every entry of a later element is the
-// blank entry that reading zeros gives: all its fields zero (kind 0, no corners). Its corner lists
-// would hold only the spare entry, which means nothing; leaving them empty keeps the many
-// thousands of such entries a damaged file can give cheap to make.
-void FillWithBlanks(ElementList& list, int element, int64_t entries) {
-    list.Items.resize(static_cast<size_t>(entries) + 1);
-    for (int j = 0; j < entries; ++j)
+// Where every read gives zero - the file is closed, or the stream lies beyond the end of the
+// file - every entry still to come is the one reading zeros gives: kind 0, no corners, never the
+// last. Such entries are made at once rather than read one by one; their corner lists would hold
+// only the spare entry, which means nothing, so they stay empty. This keeps the many thousands of
+// them a damaged file can give cheap, and the entries write back to the same bytes.
+void AppendBlanks(ElementList& list, int element, int64_t count) {
+    const int first = std::max<int>(list.Count, 0);
+    const int last = first + static_cast<int>(count);
+    list.Items.resize(static_cast<size_t>(last) + 1);
+    for (int j = first; j < last; ++j)
         SetNumber(list.Items[j], element, j);
-    list.Count = static_cast<int16_t>(entries);
+    list.Count = static_cast<int16_t>(last);
 }
 
 void ReadElements(MoxInput& file, FileRecord& record) {
     int64_t entriesHeld = 0;
+    int fullBlankLists = 0;
     for (int i = 0; i < record.NumElements; ++i) {
         ElementList& list = record.Elements[i];
         if (file.IsClosed()) {
-            // As many entries as reading on would give before a limit is reached.
+            // As many entries as reading on would give before a limit is reached; past the first
+            // few such lists, one blank entry stands for the rest.
             const int64_t entries =
-                std::clamp<int64_t>(kMaxEntriesPerRecord - entriesHeld, 1, kMaxPiggybacks + 1);
-            FillWithBlanks(list, i, entries);
+                fullBlankLists < kFullBlankListsAfterClose
+                    ? std::clamp<int64_t>(kMaxEntriesPerRecord - entriesHeld, 1, kMaxPiggybacks + 1)
+                    : 1;
+            fullBlankLists += entries > 1 ? 1 : 0;
+            AppendBlanks(list, i, entries);
             entriesHeld += entries;
             ShowMessage(kTooManyEntries + std::to_string(i));
             continue;
@@ -130,6 +138,16 @@ void ReadElements(MoxInput& file, FileRecord& record) {
         file.Seek(record.Offsets[i]);
         bool ended = false;
         for (int j = 0; !ended; ++j) {
+            if (file.RunOut()) {
+                // The list grows with blank entries until one of the limits below stops it.
+                const int64_t entries =
+                    std::min<int64_t>(kMaxPiggybacks + 1 - j, kMaxEntriesPerRecord - entriesHeld);
+                AppendBlanks(list, i, entries);
+                entriesHeld += entries;
+                ShowMessage(kTooManyEntries + std::to_string(i));
+                file.Close();
+                break;
+            }
             list.Count = static_cast<int16_t>(j + 1);
             list.Items.resize(static_cast<size_t>(list.Count) + 1);
             Piggyback& entry = list.Items[j];

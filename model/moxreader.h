@@ -8,9 +8,14 @@
 #include <string>
 #include <vector>
 
-// The most piggybacks one record holds: 255 elements of 256 entries, more than any tree the
-// program can walk. A damaged file that would make the record hold more is cut off there.
-constexpr int64_t kMaxEntriesPerRecord = 255 * (kMaxPiggybacks + 1);
+// The most piggybacks one record holds: 64 lists of 256. Streams start in the first 32 kB of a
+// file and an entry takes at least two bytes of one, so only a file whose elements share streams
+// can hold more; such a file is cut off there.
+constexpr int64_t kMaxEntriesPerRecord = 64 * (kMaxPiggybacks + 1);
+
+// After the reading of a file has stopped, this many of the later elements get a full list of
+// blank entries and every one after them a list of one.
+constexpr int kFullBlankListsAfterClose = 4;
 
 // The reader never looks past this many bytes of a file: the tables a header can describe end
 // below 1 MiB, and a stream starts below 32 kB and cannot run on for more than 200 kB.

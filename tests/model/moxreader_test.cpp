@@ -166,8 +166,8 @@ TEST(MoxReader, ReadsBeyondTheEndGiveZeros) {
 }
 
 TEST(MoxReader, AHostileFileHoldsABoundedNumberOfEntries) {
-    // Every element shares one stream of 255 entries; past 255 full elements the record stops
-    // growing and each further element holds one blank entry.
+    // Every element shares one stream of 255 entries; once the record holds 64 full lists' worth
+    // it stops growing and each further element holds one blank entry.
     StreamBytes shared;
     for (int j = 0; j < 254; ++j)
         shared.Raw({4, 0});
@@ -182,12 +182,21 @@ TEST(MoxReader, AHostileFileHoldsABoundedNumberOfEntries) {
     RecordingHost host;
     const FileRecord record = ReadMoxBytes(bytes, "BIG.MOX", 0);
 
-    EXPECT_EQ(record.Elements[254].Count, 255);
-    EXPECT_EQ(record.Elements[255].Count, 255);
-    EXPECT_EQ(record.Elements[256].Count, 1);
+    EXPECT_EQ(record.Elements[63].Count, 255);
+    EXPECT_EQ(record.Elements[64].Count, 64 * 256 - 64 * 255);
+    EXPECT_EQ(record.Elements[65].Count, 1);
     EXPECT_EQ(record.Elements[399].Count, 1);
-    ASSERT_EQ(host.messages.size(), 400u - 255u);
-    EXPECT_EQ(host.messages.front(), "Error in MOX file.  Around element number: 255");
+    ASSERT_EQ(host.messages.size(), 400u - 64u);
+    EXPECT_EQ(host.messages.front(), "Error in MOX file.  Around element number: 64");
+
+    // A header alone that counts the most of everything still reads to a record of bounded size.
+    std::vector<uint8_t> header(22, 0x7F);
+    const FileRecord most = ReadMoxBytes(header, "MOST.MOX", 0);
+    ASSERT_EQ(most.Elements.size(), 0x7F7Fu + 1);
+    size_t entries = 0;
+    for (const ElementList& list : most.Elements)
+        entries += static_cast<size_t>(list.Count);
+    EXPECT_LE(entries, static_cast<size_t>(kMaxEntriesPerRecord) + 0x7F7Fu);
     EXPECT_EQ(record.Elements[300].Items[0].Number, 30000);
     EXPECT_EQ(record.Elements[330].Items[0].Number, 0) << "33000 does not fit 16 bits";
 }
