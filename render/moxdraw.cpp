@@ -1,6 +1,7 @@
 #include "moxdraw.h"
 
 #include "displaystates.h"
+#include "nodeposition.h"
 #include "piggybacknumber.h"
 #include "sequencewalk.h"
 #include "viewsettings.h"
@@ -32,45 +33,7 @@ constexpr GLuint kFileName = 0;
 // The last tick of "Rendering Sequence" seen; the depth test is on while it is false.
 bool sequenceOn = false;
 
-struct Position {
-    int16_t x = 0;
-    int16_t y = 0;
-    int16_t z = 0;
-};
-
-bool AddWord(int16_t& sum, int16_t addend) {
-    const int result = static_cast<int>(sum) + addend;
-    if (result < std::numeric_limits<int16_t>::min() ||
-        result > std::numeric_limits<int16_t>::max())
-        return false;
-    sum = static_cast<int16_t>(result);
-    return true;
-}
-
-// Where node `index` is painted: the node, plus the file's displacement, plus its part's pivot,
-// each sum in 16 bits. False for a node the file does not hold, a part it does not hold, or a
-// sum that leaves 16 bits.
-bool PaintedPosition(const FileRecord& record, int index, const Node& displacement,
-                     Position& position) {
-    if (index < 0 || index >= record.NumNodes || index >= static_cast<int>(record.Nodes.size()))
-        return false;
-    const Node& node = record.Nodes[index];
-    Position sum{node.X, node.Y, node.Z};
-    if (!AddWord(sum.x, displacement.X) || !AddWord(sum.y, displacement.Y) ||
-        !AddWord(sum.z, displacement.Z))
-        return false;
-    if (node.B != 0) {
-        if (node.B < 0 || node.B > static_cast<int>(record.Parts.size()))
-            return false;
-        const Part& part = record.Parts[node.B - 1];
-        if (!AddWord(sum.x, part.X) || !AddWord(sum.y, part.Y) || !AddWord(sum.z, part.Z))
-            return false;
-    }
-    position = sum;
-    return true;
-}
-
-void Vertex(const Position& at) {
+void Vertex(const NodePosition& at) {
     glVertex3f(at.x, at.y, at.z);
 }
 
@@ -85,8 +48,8 @@ bool HiddenByState(const Piggyback& item, const DrawSettings& settings) {
 
 void DrawHardpoint(const FileRecord& record, const Piggyback& item, const Node& displacement,
                    const DrawSettings& settings) {
-    Position at;
-    if (item.NodeList.empty() || !PaintedPosition(record, item.NodeList[0], displacement, at))
+    NodePosition at;
+    if (item.NodeList.empty() || !AssembledPosition(record, item.NodeList[0], displacement, at))
         return;
     glEnable(GL_POINT_SMOOTH);
     glDisable(GL_TEXTURE_2D);
@@ -113,9 +76,9 @@ void DrawPolygon(const FileRecord& record, const Piggyback& item, int16_t number
     const int corners = item.CRN;
     glBegin(GL_POLYGON);
     for (int corner = corners - 1; corner >= 0; --corner) {
-        Position at;
+        NodePosition at;
         if (corner >= static_cast<int>(item.NodeList.size()) ||
-            !PaintedPosition(record, item.NodeList[corner], displacement, at))
+            !AssembledPosition(record, item.NodeList[corner], displacement, at))
             break;
         if (mapped) {
             if (corner >= static_cast<int>(item.XMap.size()) ||
@@ -129,7 +92,7 @@ void DrawPolygon(const FileRecord& record, const Piggyback& item, int16_t number
     glEnd();
 }
 
-void DrawAxisLine(const Position& origin, int dx, int dy, int dz, GLuint name, bool ticked,
+void DrawAxisLine(const NodePosition& origin, int dx, int dy, int dz, GLuint name, bool ticked,
                   const DrawSettings& settings) {
     glLineWidth(settings.lineWeight + (ticked ? kTickedAxisExtraWidth : 0.0f));
     if (settings.move)
@@ -143,20 +106,20 @@ void DrawAxisLine(const Position& origin, int dx, int dy, int dz, GLuint name, b
 // The origin of the axis lines: corner 0 of the selected piggyback in the Elements tab, the
 // selected node in the Nodes tab. False when there is no selection there, or it cannot be placed.
 bool AxisOrigin(const FileRecord& record, const Node& displacement, const DrawSettings& settings,
-                Position& origin) {
+                NodePosition& origin) {
     if (settings.currentTab == kElementsTab && settings.currelem != -1) {
         const Piggyback* item = FindPiggyback(record, settings.currelem);
         return item != nullptr && !item->NodeList.empty() &&
-               PaintedPosition(record, item->NodeList[0], displacement, origin);
+               AssembledPosition(record, item->NodeList[0], displacement, origin);
     }
     if (settings.currentTab == kNodesTab && settings.currnode != -1)
-        return PaintedPosition(record, settings.currnode, displacement, origin);
+        return AssembledPosition(record, settings.currnode, displacement, origin);
     return false;
 }
 
 void DrawAxisLines(const FileRecord& record, const Node& displacement,
                    const DrawSettings& settings) {
-    Position origin;
+    NodePosition origin;
     if (!IsCurrentFile(record, settings) || !AxisOrigin(record, displacement, settings, origin))
         return;
     glDisable(GL_TEXTURE_2D);
@@ -299,8 +262,8 @@ void DrawNodes(const FileRecord& record, const Node& displacement, const DrawSet
     const float nodeSize = (settings.lineWeight * 2 + kNodePointUnits) * record.PointStep;
     const int nodes = std::min<int>(record.NumNodes, static_cast<int>(record.Nodes.size()));
     for (int index = 0; index < nodes; ++index) {
-        Position at;
-        if (!PaintedPosition(record, index, displacement, at))
+        NodePosition at;
+        if (!AssembledPosition(record, index, displacement, at))
             continue;
         if (pickNodes)
             glLoadName(static_cast<GLuint>(index));
