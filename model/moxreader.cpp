@@ -119,19 +119,11 @@ void AppendBlanks(ElementList& list, int element, int64_t count) {
 
 void ReadElements(MoxInput& file, FileRecord& record) {
     int64_t entriesHeld = 0;
-    int fullBlankLists = 0;
     for (int i = 0; i < record.NumElements; ++i) {
         ElementList& list = record.Elements[i];
         if (file.IsClosed()) {
-            // As many entries as reading on would give before a limit is reached; past the first
-            // few such lists, one blank entry stands for the rest.
-            const int64_t entries =
-                fullBlankLists < kFullBlankListsAfterClose
-                    ? std::clamp<int64_t>(kMaxEntriesPerRecord - entriesHeld, 1, kMaxPiggybacks + 1)
-                    : 1;
-            fullBlankLists += entries > 1 ? 1 : 0;
-            AppendBlanks(list, i, entries);
-            entriesHeld += entries;
+            // Reading on would give a full list of blank entries, all alike: one stands for them.
+            AppendBlanks(list, i, 1);
             ShowMessage(kTooManyEntries + std::to_string(i));
             continue;
         }

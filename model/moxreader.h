@@ -13,10 +13,6 @@
 // can hold more; such a file is cut off there.
 constexpr int64_t kMaxEntriesPerRecord = 64 * (kMaxPiggybacks + 1);
 
-// After the reading of a file has stopped, this many of the later elements get a full list of
-// blank entries and every one after them a list of one.
-constexpr int kFullBlankListsAfterClose = 4;
-
 // The reader never looks past this many bytes of a file: the tables a header can describe end
 // below 1 MiB, and a stream starts below 32 kB and cannot run on for more than 200 kB.
 constexpr size_t kMaxUsefulFileBytes = 2 * 1024 * 1024;
