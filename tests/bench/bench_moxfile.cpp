@@ -31,44 +31,25 @@ std::vector<uint8_t> FullSizeModel() {
     return builder.Build();
 }
 
-const std::vector<uint8_t>& Model() {
-    static const std::vector<uint8_t> bytes = FullSizeModel();
-    return bytes;
-}
-
-void BM_ReadMoxBytes(benchmark::State& state) {
-    for (auto _ : state)
-        benchmark::DoNotOptimize(ReadMoxBytes(Model(), "PLANEF.MOX", 0));
-    state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * Model().size()));
-}
-BENCHMARK(BM_ReadMoxBytes);
-
+// Loading and saving the file on disk; the save includes the temporary file, its flush to disk
+// and the rename over the old file.
 void BM_READ_MOX(benchmark::State& state) {
     TempDir dir;
-    WriteTestFile(dir.file("PLANEF.MOX"), Model());
+    const std::vector<uint8_t> bytes = FullSizeModel();
+    WriteTestFile(dir.file("PLANEF.MOX"), bytes);
     for (auto _ : state)
         benchmark::DoNotOptimize(READ_MOX(dir.file("PLANEF.MOX"), 0));
-    state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * Model().size()));
+    state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * bytes.size()));
 }
 BENCHMARK(BM_READ_MOX);
 
-void BM_BuildMoxBytes(benchmark::State& state) {
-    const FileRecord record = ReadMoxBytes(Model(), "PLANEF.MOX", 0);
-    std::vector<uint8_t> bytes;
-    std::string problem;
-    for (auto _ : state)
-        benchmark::DoNotOptimize(BuildMoxBytes(record, bytes, problem));
-    state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * Model().size()));
-}
-BENCHMARK(BM_BuildMoxBytes);
-
-// Includes the temporary file, its flush to disk and the rename over the old file.
 void BM_SAVE_MOX(benchmark::State& state) {
     TempDir dir;
-    const FileRecord record = ReadMoxBytes(Model(), "PLANEF.MOX", 0);
+    const std::vector<uint8_t> bytes = FullSizeModel();
+    const FileRecord record = ReadMoxBytes(bytes, "PLANEF.MOX", 0);
     for (auto _ : state)
         benchmark::DoNotOptimize(SAVE_MOX(record, dir.file("PLANEF.MOX")));
-    state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * Model().size()));
+    state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * bytes.size()));
 }
 BENCHMARK(BM_SAVE_MOX)->Unit(benchmark::kMicrosecond);
 
