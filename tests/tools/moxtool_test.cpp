@@ -113,6 +113,7 @@ TEST_F(MoxToolTest, InfoSummarisesEachFileAndNamesTheOnesItCannotRead) {
 // Every command answers --help on stdout and a wrong option with one line on stderr that names
 // it and shows its usage; inputs that cannot be read or written end with status 2 as well.
 TEST_F(MoxToolTest, HelpUsageErrorsAndUnusableFilesGiveTheirStatusAndOneLine) {
+    EXPECT_NE(RunTool({"--help"}).out.find("  resave\t"), std::string::npos);
     for (const ToolCommand& command : ToolCommands()) {
         const std::string name = command.name;
         const ToolRun help = RunTool({name, "--help"});
@@ -159,15 +160,11 @@ TEST_F(MoxToolTest, HelpUsageErrorsAndUnusableFilesGiveTheirStatusAndOneLine) {
 // The program itself hands its words to the commands and exits with their status.
 TEST_F(MoxToolTest, TheProgramExitsWithTheCommandsStatus) {
     const auto status = [&](const std::string& words) {
-        const int result = std::system((std::string(MOXTOOL_PROGRAM) + " " + words + " >" +
-                                        dir.file("out.txt") + " 2>/dev/null")
-                                           .c_str());
+        const int result =
+            std::system((std::string(MOXTOOL_PROGRAM) + " " + words + " >/dev/null 2>&1").c_str());
         return WIFEXITED(result) ? WEXITSTATUS(result) : -1;
     };
     EXPECT_EQ(status("--help"), kExitOk);
-    std::ifstream listing(dir.file("out.txt"));
-    EXPECT_NE(std::string(std::istreambuf_iterator<char>(listing), {}).find("  resave\t"),
-              std::string::npos);
     EXPECT_EQ(status("info --bogus"), kExitFailure);
     EXPECT_EQ(status("info " + model), kExitOk);
 }
