@@ -1,6 +1,7 @@
 // moxtool texture: the picture it writes, and the acceptance corpus of real PCX files from other
 // programs.
 #include "bytefile.h"
+#include "moxbuilder.h"
 #include "pcxreader.h"
 #include "pcxwriter.h"
 #include "runtool.h"
@@ -16,12 +17,6 @@ namespace {
 
 using Bytes = std::vector<uint8_t>;
 
-Bytes ReadAll(const std::string& path) {
-    Bytes bytes;
-    ReadFileBytes(path, bytes);
-    return bytes;
-}
-
 struct Ppm {
     int width = 0;
     int height = 0;
@@ -29,7 +24,7 @@ struct Ppm {
 };
 
 Ppm ReadPpm(const std::string& path) {
-    const Bytes bytes = ReadAll(path);
+    const Bytes bytes = ReadFileBytes(path);
     std::istringstream header(std::string(bytes.begin(), bytes.end()));
     std::string magic;
     int maxval = 0;
@@ -54,7 +49,7 @@ TEST(TextureCommand, WritesThePictureTheEditorDecodes) {
     EXPECT_EQ(ppm.rgb, DecodePcx(file, "in.pcx").picture->rgb);
 
     ASSERT_EQ(RunTool({"texture", folder.file("in.pcx"), folder.file("out.PNG")}).status, 0);
-    const Bytes png = ReadAll(folder.file("out.PNG"));
+    const Bytes png = ReadFileBytes(folder.file("out.PNG"));
     ASSERT_GT(png.size(), 24u);
     EXPECT_EQ(Bytes(png.begin() + 1, png.begin() + 4), (Bytes{'P', 'N', 'G'}));
     EXPECT_EQ(png[19], 6); // IHDR width, big-endian
