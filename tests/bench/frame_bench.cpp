@@ -1,10 +1,12 @@
 // The cost of a frame in the real editor window under a virtual X server with software GL: the
 // sample fighter and the largest family the format allows (seven files of 255 elements of
 // textured polygons, each file near 32 kB), the processor time the paced frame loop takes
-// while such a model is open and nothing happens, a pick at the middle of the view, and the
-// frames of a node drag in the Move tool.
+// while such a model is open and nothing happens, a pick at the middle of the view, the
+// frames of a node drag in the Move tool, and the whole load of a 1024 x 1024 texture into GL
+// (file read, decode, image store, upload).
 #include "currentmodel.h"
 #include "framepacer.h"
+#include "gltexture.h"
 #include "gltextureloader.h"
 #include "glview.h"
 #include "mainwindow.h"
@@ -18,10 +20,10 @@
 #include "tempdir.h"
 #include "testpictures.h"
 #include "textureloader.h"
+#include "tubemodel.h"
 #include "viewsettings.h"
 
 #include <QApplication>
-#include <QEventLoop>
 #include <QMouseEvent>
 #include <QTest>
 
@@ -30,77 +32,23 @@
 
 #include <algorithm>
 #include <chrono>
-#include <cmath>
 #include <ctime>
 #include <iostream>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace {
 
 constexpr int kScreenWidth = 1280;
 constexpr int kScreenHeight = 1024;
-constexpr int kElements = 255;
-constexpr int kPolygonsPerElement = 6;
-constexpr int kRings = 15;     // along X
-constexpr int kRingNodes = 16; // around X
 constexpr int kTextureSide = 256;
+constexpr int kLargeTextureSide = 1024;
 constexpr int kIdleTicks = 300;
 constexpr int kSettlingTicks = 30;
 constexpr int kFrameWaitMilliseconds = 60000;
-constexpr double kPi = 3.14159265358979323846;
-// The connected files of an F family and the hardpoint codes that place them, slots 1 to 6.
+// The connected files of an F family, slots 1 to 6.
 constexpr char kLetters[] = {'A', 'B', 'C', 'E', 'G', 'P'};
-constexpr uint8_t kHardpointCodes[] = {25, 26, 27, 28, 29, 10};
-
-// A tube of quads around the X axis, its ring nodes first; the main file adds one node per
-// hardpoint. Every element holds the same number of textured quads, mapped over the texture. With
-// at most 256 nodes a file cannot hold 1530 quads side by side: each quad of the tube is painted
-// about seven times, as the polygons of a full file must overlap.
-MoxBuilder TubeFile(bool withHardpoints) {
-    MoxBuilder file;
-    file.SetTexture("BENCH.TPC");
-    for (int ring = 0; ring < kRings; ++ring)
-        for (int around = 0; around < kRingNodes; ++around) {
-            const double angle = 2 * kPi * around / kRingNodes;
-            Node node;
-            node.X = static_cast<int16_t>(-100 + ring * 14);
-            node.Y = static_cast<int16_t>(std::lround(30 * std::cos(angle)));
-            node.Z = static_cast<int16_t>(std::lround(30 * std::sin(angle)));
-            file.nodes.push_back(node);
-        }
-    const auto nodeAt = [](int ring, int around) {
-        return static_cast<uint8_t>(ring * kRingNodes + around % kRingNodes);
-    };
-    const int quads = (kRings - 1) * kRingNodes;
-    for (int element = 0; element < kElements; ++element) {
-        StreamBytes stream;
-        for (int k = 0; k < kPolygonsPerElement; ++k) {
-            const int quad = (element * kPolygonsPerElement + k) % quads;
-            const int ring = quad / kRingNodes;
-            const int around = quad % kRingNodes;
-            const auto u = static_cast<uint8_t>(around * 16);
-            const auto v = static_cast<uint8_t>(ring * 17);
-            stream.MappedPoly(5,
-                              {{nodeAt(ring, around), u, v},
-                               {nodeAt(ring + 1, around), u, static_cast<uint8_t>(v + 16)},
-                               {nodeAt(ring + 1, around + 1), static_cast<uint8_t>(u + 15),
-                                static_cast<uint8_t>(v + 16)},
-                               {nodeAt(ring, around + 1), static_cast<uint8_t>(u + 15), v}},
-                              0, 0);
-        }
-        if (withHardpoints && element == 0)
-            for (size_t slot = 0; slot < std::size(kHardpointCodes); ++slot) {
-                Node point;
-                point.Y = static_cast<int16_t>((static_cast<int>(slot) - 3) * 45);
-                file.nodes.push_back(point);
-                stream.Hardpoint(kHardpointCodes[slot],
-                                 static_cast<uint8_t>(file.nodes.size() - 1));
-            }
-        file.streams.push_back(stream.End().bytes);
-    }
-    return file;
-}
 
 // Writes the family and its texture into `folder`; returns the main file's name. A name that
 // begins with P and ends in F.MOX makes an F family.
@@ -115,12 +63,6 @@ std::string WriteLargestFamily(const TempDir& folder) {
     return main;
 }
 
-double ProcessCpuSeconds() {
-    timespec now{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
-}
-
 struct Editor {
     RecordingHost host;
     QtModelHost windowHost;
@@ -131,41 +73,43 @@ struct Editor {
 
 Editor* editor = nullptr;
 
-// Opens the model `name`, or, for an empty name, leaves nothing open.
+// Opens the model `name` unless it is open already.
 void Open(const std::string& name) {
     if (editor->open == name)
         return;
     editor->open = name;
-    if (name.empty()) {
-        ReplaceCurrentModel();
-        return;
-    }
     OGL().MakeCurrent();
     editor->host.answers = {MessageAnswer::Yes};
     std::string filename = name;
     CurrentModel().Load(filename);
 }
 
-double MedianOf(std::vector<double>& values) {
-    std::nth_element(values.begin(), values.begin() + values.size() / 2, values.end());
-    return values[values.size() / 2];
-}
-
-void Frame(benchmark::State& state, const std::string& name) {
-    Open(name);
+// Runs `step` once per iteration and reports its median time.
+template <typename Step> double MedianMilliseconds(benchmark::State& state, Step step) {
     std::vector<double> milliseconds;
     for (auto _ : state) {
-        OGL().MakeCurrent();
         const auto start = std::chrono::steady_clock::now();
-        OGL().RenderFrame();
-        glFinish();
+        step();
         milliseconds.push_back(
             std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
                 .count());
     }
-    const double median = MedianOf(milliseconds);
+    std::nth_element(milliseconds.begin(), milliseconds.begin() + milliseconds.size() / 2,
+                     milliseconds.end());
+    const double median = milliseconds.empty() ? 0 : milliseconds[milliseconds.size() / 2];
     state.counters["median_ms"] = median;
-    state.counters["frames_per_second"] = 1000.0 / median;
+    return median;
+}
+
+void PaintFrame() {
+    OGL().MakeCurrent();
+    OGL().RenderFrame();
+    glFinish();
+}
+
+void Frame(benchmark::State& state, const std::string& name) {
+    Open(name);
+    state.counters["frames_per_second"] = 1000.0 / MedianMilliseconds(state, PaintFrame);
 }
 
 // The program's own loop with the model open and nothing changing: events only, the pacer
@@ -174,20 +118,22 @@ void IdleCpu(benchmark::State& state, const std::string& name) {
     Open(name);
     GLView& view = *editor->window->glView;
     const FramePacer& pacer = *editor->window->framePacer;
-    // The frames that show the model after its load come first; idle is what follows them.
-    const int64_t settled = pacer.TickCount() + kSettlingTicks;
-    if (!QTest::qWaitFor([&] { return pacer.TickCount() >= settled; }, kFrameWaitMilliseconds))
-        state.SkipWithError("the frame loop stopped");
-    for (auto _ : state) {
-        const int64_t target = pacer.TickCount() + kIdleTicks;
-        const int64_t framesBefore = view.FrameCount();
-        const double cpuStart = ProcessCpuSeconds();
-        const auto wallStart = std::chrono::steady_clock::now();
+    const auto waitTicks = [&](int ticks) {
+        const int64_t target = pacer.TickCount() + ticks;
         if (!QTest::qWaitFor([&] { return pacer.TickCount() >= target; }, kFrameWaitMilliseconds))
             state.SkipWithError("the frame loop stopped");
+    };
+    // The frames that show the model after its load come first; idle is what follows them.
+    waitTicks(kSettlingTicks);
+    for (auto _ : state) {
+        const int64_t framesBefore = view.FrameCount();
+        const std::clock_t cpuStart = std::clock();
+        const auto wallStart = std::chrono::steady_clock::now();
+        waitTicks(kIdleTicks);
         const double wall =
             std::chrono::duration<double>(std::chrono::steady_clock::now() - wallStart).count();
-        state.counters["cpu_percent_of_one_core"] = 100.0 * (ProcessCpuSeconds() - cpuStart) / wall;
+        state.counters["cpu_percent_of_one_core"] =
+            100.0 * static_cast<double>(std::clock() - cpuStart) / CLOCKS_PER_SEC / wall;
         state.counters["frames_per_second"] =
             static_cast<double>(view.FrameCount() - framesBefore) / wall;
     }
@@ -201,15 +147,7 @@ void Pick(benchmark::State& state, const std::string& name) {
     const GLView& view = *editor->window->glView;
     const auto x = static_cast<int16_t>(view.width() / 2);
     const auto y = static_cast<int16_t>(view.height() / 2);
-    std::vector<double> milliseconds;
-    for (auto _ : state) {
-        const auto start = std::chrono::steady_clock::now();
-        ProcessSelection(x, y);
-        milliseconds.push_back(
-            std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
-                .count());
-    }
-    state.counters["median_ms"] = MedianOf(milliseconds);
+    MedianMilliseconds(state, [&] { ProcessSelection(x, y); });
     state.counters["hit_element"] = CurrentModel().m_currelem;
 }
 
@@ -233,23 +171,27 @@ void Drag(benchmark::State& state, const std::string& name) {
         QCoreApplication::sendEvent(&view, &event);
     };
     move(QEvent::MouseButtonPress, Qt::LeftButton);
-    std::vector<double> milliseconds;
-    for (auto _ : state) {
-        const auto begin = std::chrono::steady_clock::now();
-        move(QEvent::MouseMove, Qt::LeftButton);
-        OGL().MakeCurrent();
-        OGL().RenderFrame();
-        glFinish();
-        milliseconds.push_back(
-            std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - begin)
-                .count());
-    }
+    state.counters["events_per_second"] = 1000.0 / MedianMilliseconds(state, [&] {
+                                              move(QEvent::MouseMove, Qt::LeftButton);
+                                              PaintFrame();
+                                          });
     move(QEvent::MouseButtonRelease, Qt::NoButton);
-    const double median = MedianOf(milliseconds);
-    state.counters["median_ms"] = median;
-    state.counters["events_per_second"] = 1000.0 / median;
     window.mnu_v_persp_Click();
     window.mnu_m_pick_Click();
+}
+
+void LoadTexture(benchmark::State& state, const std::string& path) {
+    OGL().MakeCurrent();
+    for (auto _ : state) {
+        int32_t name = 0;
+        LoadGLTexture(path, name, 0);
+        glFinish();
+        // Names are never deleted in the program; here they are, to keep memory flat.
+        state.PauseTiming();
+        const GLuint texture = static_cast<GLuint>(name);
+        glDeleteTextures(1, &texture);
+        state.ResumeTiming();
+    }
 }
 
 } // namespace
@@ -279,21 +221,29 @@ int main(int argc, char** argv) {
     TempDir folder;
     const std::string sample = std::string(SAMPLE_DIR) + "/PDEMOF.MOX";
     const std::string largest = WriteLargestFamily(folder);
-    benchmark::RegisterBenchmark("BM_FrameNothingLoaded", Frame, std::string())
-        ->Unit(benchmark::kMillisecond);
-    benchmark::RegisterBenchmark("BM_FrameSample", Frame, sample)->Unit(benchmark::kMillisecond);
-    benchmark::RegisterBenchmark("BM_FrameLargestFamily", Frame, largest)
-        ->Unit(benchmark::kMillisecond);
-    benchmark::RegisterBenchmark("BM_IdleCpuSample", IdleCpu, sample)
-        ->Iterations(1)
-        ->Unit(benchmark::kMillisecond);
-    benchmark::RegisterBenchmark("BM_IdleCpuLargestFamily", IdleCpu, largest)
-        ->Iterations(1)
-        ->Unit(benchmark::kMillisecond);
-    benchmark::RegisterBenchmark("BM_PickSample", Pick, sample)->Unit(benchmark::kMillisecond);
-    benchmark::RegisterBenchmark("BM_PickLargestFamily", Pick, largest)
-        ->Unit(benchmark::kMillisecond);
-    benchmark::RegisterBenchmark("BM_DragSample", Drag, sample)->Unit(benchmark::kMillisecond);
+    const std::string palette8 = folder.file("palette.pcx");
+    const std::string trueColour = folder.file("rgb.pcx");
+    constexpr int side = kLargeTextureSide;
+    WritePcx8(palette8, side, side, TestIndices(side, side, 1), TestPalette());
+    WritePcx24(trueColour, side, side, TestRgb(side, side, 1));
+    using Measure = void (*)(benchmark::State&, const std::string&);
+    const std::tuple<const char*, Measure, std::string> benchmarks[] = {
+        {"BM_FrameSample", Frame, sample},
+        {"BM_FrameLargestFamily", Frame, largest},
+        {"BM_IdleCpuSample", IdleCpu, sample},
+        {"BM_IdleCpuLargestFamily", IdleCpu, largest},
+        {"BM_PickSample", Pick, sample},
+        {"BM_PickLargestFamily", Pick, largest},
+        {"BM_DragSample", Drag, sample},
+        {"BM_LoadGLTexture256Colours", LoadTexture, palette8},
+        {"BM_LoadGLTextureTrueColour", LoadTexture, trueColour},
+    };
+    for (const auto& [title, measure, model] : benchmarks) {
+        auto* registered = benchmark::RegisterBenchmark(title, measure, model);
+        registered->Unit(benchmark::kMillisecond);
+        if (measure == IdleCpu)
+            registered->Iterations(1);
+    }
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
 

@@ -12,6 +12,7 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <tuple>
 
 namespace {
 
@@ -49,10 +50,15 @@ private:
 };
 
 bool LoadedCleanly(const RecordingHost& host) {
-    return std::find(host.messages.begin(), host.messages.end(), "Error in Project File") ==
-               host.messages.end() &&
-           std::find(host.messages.begin(), host.messages.end(), "Could not find project file") ==
-               host.messages.end();
+    return std::none_of(host.messages.begin(), host.messages.end(), [](const std::string& text) {
+        return text == "Error in Project File" || text == "Could not find project file";
+    });
+}
+
+// The numbers of a project that a save and a load must keep.
+auto Numbers(const ProjectRecord& project) {
+    return std::tie(project.Span, project.Length, project.Height, project.TopLeftX,
+                    project.TopLeftY, project.TopLeftZ, project.Type);
 }
 
 } // namespace
@@ -84,11 +90,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     ResetProgramState();
     model again;
     again.LoadProject(workspace.saved);
-    const ProjectRecord& second = Program().ProjectData;
-    if (!LoadedCleanly(host) || second.Span != first.Span || second.Length != first.Length ||
-        second.Height != first.Height || second.TopLeftX != first.TopLeftX ||
-        second.TopLeftY != first.TopLeftY || second.TopLeftZ != first.TopLeftZ ||
-        second.Type != first.Type)
+    if (!LoadedCleanly(host) || Numbers(Program().ProjectData) != Numbers(first))
         std::abort();
     return 0;
 }

@@ -16,16 +16,14 @@
 
 namespace {
 
-namespace fs = std::filesystem;
+constexpr int kMoxSeeds = 40;
 
-bool WriteSeed(const fs::path& folder, const std::string& name, const std::vector<uint8_t>& bytes) {
-    return WriteFileBytes((folder / name).string(), bytes);
-}
+// Each seed's path under DIR and its bytes.
+using Seeds = std::vector<std::pair<std::string, std::vector<uint8_t>>>;
 
 // 256-colour and 24-bit files with odd widths, padded lines and runs across line ends, and one
 // without its palette marker; the fuzzer finds the other depths and plane counts from these.
-bool WritePcxSeeds(const fs::path& folder) {
-    fs::create_directories(folder);
+void AddPcxSeeds(Seeds& seeds) {
     PcxWriteOptions padded;
     padded.bytesPerLine = 12;
     padded.padding = 0xC7;
@@ -33,41 +31,35 @@ bool WritePcxSeeds(const fs::path& folder) {
     const PcxPalette palette = TestPalette();
     std::vector<uint8_t> unmarked = EncodePcx8(7, 5, TestIndices(7, 5, 1), palette);
     unmarked[unmarked.size() - kPcxPaletteBlockBytes] = 0;
-    return WriteSeed(folder, "palette.pcx",
-                     EncodePcx8(9, 6, TestIndices(9, 6, 2), palette, padded)) &&
-           WriteSeed(folder, "rgb.pcx", EncodePcx24(11, 7, TestRgb(11, 7, 1), padded)) &&
-           WriteSeed(folder, "no-palette-marker.pcx", unmarked);
+    seeds.push_back(
+        {"fuzz_pcx/palette.pcx", EncodePcx8(9, 6, TestIndices(9, 6, 2), palette, padded)});
+    seeds.push_back({"fuzz_pcx/rgb.pcx", EncodePcx24(11, 7, TestRgb(11, 7, 1), padded)});
+    seeds.push_back({"fuzz_pcx/no-palette-marker.pcx", unmarked});
 }
 
-constexpr int kMoxSeeds = 40;
-
 // Generated model files of every kind, and their JSON form for the build command's reader.
-bool WriteMoxSeeds(const fs::path& root) {
-    fs::create_directories(root / "fuzz_mox");
-    fs::create_directories(root / "fuzz_moxjson");
+void AddMoxSeeds(Seeds& seeds) {
     std::mt19937 random(1);
     RandomMoxOptions options;
     options.prefixedNulls = true;
     options.longLists = false;
-    bool written = true;
     for (int seed = 0; seed < kMoxSeeds; ++seed) {
         const std::vector<uint8_t> bytes = RandomMox(random, options).Build();
-        const std::string name = "seed-" + std::to_string(seed);
+        const std::string name = "/seed-" + std::to_string(seed);
+        seeds.push_back({"fuzz_mox" + name, bytes});
         const std::string json = MoxToJson(ReadMoxBytes(bytes, "SEED.MOX", 0), {}).dump();
-        written = WriteSeed(root / "fuzz_mox", name, bytes) &&
-                  WriteSeed(root / "fuzz_moxjson", name, {json.begin(), json.end()}) && written;
+        seeds.push_back({"fuzz_moxjson" + name, {json.begin(), json.end()}});
     }
-    return written;
 }
 
 // A configuration as the program writes it, with options away from their defaults, and project
 // files as the program writes them and as people edit them.
-bool WriteTextSeeds(const fs::path& root) {
+void AddTextSeeds(Seeds& seeds) {
     ProgramState state;
     state.RecentModels[0] = "/models/with blanks/PLANEF.MOX";
     state.LineColour = {0, 7, 255};
     state.IncrementalSave = false;
-    const std::vector<std::pair<std::string, std::string>> seeds = {
+    const std::pair<const char*, std::string> texts[] = {
         {"fuzz_config/written", ConfigText(state)},
         {"fuzz_project/family",
          "Type=MOX\r\nF=SHIPF.MOX\r\nA=SHIPA.MOX\r\nB=NONE\r\n\r\nSpan=1200\r\nLength=-32768\r\n"
@@ -77,12 +69,8 @@ bool WriteTextSeeds(const fs::path& root) {
          "\r\ntype=MOX TMOD\r\ntopleftz=+5\r\nNOTES=\xe9t\n\nb"},
         {"fuzz_project/no-equals", "Type=MOX\r\nF=SHIPF.MOX\r\njust words\r\nSpan=3\r\n"},
     };
-    bool written = true;
-    for (const auto& [name, text] : seeds) {
-        fs::create_directories((root / name).parent_path());
-        written = WriteSeed(root, name, {text.begin(), text.end()}) && written;
-    }
-    return written;
+    for (const auto& [name, text] : texts)
+        seeds.push_back({name, {text.begin(), text.end()}});
 }
 
 } // namespace
@@ -92,11 +80,19 @@ int main(int argc, char** argv) {
         std::cerr << "usage: make_fuzz_seeds DIR\n";
         return 2;
     }
-    const fs::path root = argv[1];
-    fs::create_directories(root);
-    if (!WriteMoxSeeds(root) || !WritePcxSeeds(root / "fuzz_pcx") || !WriteTextSeeds(root)) {
-        std::cerr << "make_fuzz_seeds: cannot write the seeds under " << root << "\n";
-        return 1;
+    const std::filesystem::path root = argv[1];
+    Seeds seeds;
+    AddPcxSeeds(seeds);
+    AddMoxSeeds(seeds);
+    AddTextSeeds(seeds);
+    for (const auto& [name, bytes] : seeds) {
+        const std::filesystem::path path = root / name;
+        std::error_code error;
+        std::filesystem::create_directories(path.parent_path(), error);
+        if (!WriteFileBytes(path.string(), bytes)) {
+            std::cerr << "make_fuzz_seeds: cannot write " << path << "\n";
+            return 1;
+        }
     }
     return 0;
 }

@@ -1,11 +1,11 @@
 // moxtool check: each rule fires on a small record made to break it, and on nothing else.
 #include "collectinghost.h"
-#include "commands.h"
 #include "modelcheck.h"
 #include "moxbuilder.h"
 #include "moxjson.h"
 #include "moxreader.h"
 #include "pcxwriter.h"
+#include "runtool.h"
 #include "tempdir.h"
 #include "testpictures.h"
 
@@ -13,6 +13,7 @@
 
 #include <functional>
 #include <set>
+#include <tuple>
 
 namespace {
 
@@ -32,12 +33,19 @@ MoxBuilder Square() {
     return model;
 }
 
-void AddLines(MoxBuilder& model, int element, int lines) {
+// Adds to the end of element 0's stream what `add` writes.
+void Append(MoxBuilder& model, const std::function<void(StreamBytes&)>& add) {
     StreamBytes stream;
-    stream.bytes.assign(model.streams[element].begin(), model.streams[element].end() - 1);
-    for (int i = 0; i < lines; ++i)
-        stream.Line(0, 1, 0);
-    model.streams[element] = stream.End().bytes;
+    stream.Raw({model.streams[0].begin(), model.streams[0].end() - 1});
+    add(stream);
+    model.streams[0] = stream.End().bytes;
+}
+
+void AddLines(MoxBuilder& model, int lines) {
+    Append(model, [&](StreamBytes& s) {
+        for (int i = 0; i < lines; ++i)
+            s.Line(0, 1, 0);
+    });
 }
 
 // Elements beyond the square that hold a line each and lie in its plane.
@@ -49,9 +57,7 @@ void AddLineElements(MoxBuilder& model, int count) {
 }
 
 void Poly(MoxBuilder& model, const std::vector<uint8_t>& nodes) {
-    StreamBytes stream;
-    stream.bytes.assign(model.streams[0].begin(), model.streams[0].end() - 1);
-    model.streams[0] = stream.ColouredPoly(nodes, 0).End().bytes;
+    Append(model, [&](StreamBytes& s) { s.ColouredPoly(nodes, 0); });
 }
 
 const std::set<std::string> kErrorRules = {"corner-node",  "element-reference", "node-part",
@@ -71,17 +77,17 @@ std::set<std::string> RulesOf(const std::vector<Finding>& findings) {
     return rules;
 }
 
+std::set<std::string> JsonRules(const Json& findings) {
+    std::set<std::string> rules;
+    for (const Json& finding : findings)
+        rules.insert(finding.at("rule").get<std::string>());
+    return rules;
+}
+
 TEST(ModelCheck, EachRuleFiresOnItsOwnRecordAlone) {
     const std::vector<RuleRow> rows = {
         {"", [](MoxBuilder&) {}},
-        {"corner-node",
-         [](MoxBuilder& m) {
-             m.streams[0] = StreamBytes()
-                                .Raw({m.streams[0].begin(), m.streams[0].end() - 1})
-                                .Line(0, 9, 0)
-                                .End()
-                                .bytes;
-         }},
+        {"corner-node", [](MoxBuilder& m) { Append(m, [](StreamBytes& s) { s.Line(0, 9, 0); }); }},
         {"element-reference",
          [](MoxBuilder& m) {
              m.children = {{7, kNoElement}};
@@ -100,7 +106,7 @@ TEST(ModelCheck, EachRuleFiresOnItsOwnRecordAlone) {
          [](MoxBuilder& m) {
              m.children = {{0, kNoElement}};
          }},
-        {"too-many-entries", [](MoxBuilder& m) { AddLines(m, 0, 255); }},
+        {"too-many-entries", [](MoxBuilder& m) { AddLines(m, 255); }},
         // Too long to read back through a file: 90 more elements of 99 lines, each the child
         // of the one before.
         {"stream-offset", [](MoxBuilder&) {},
@@ -145,21 +151,16 @@ TEST(ModelCheck, EachRuleFiresOnItsOwnRecordAlone) {
              m.nodes.push_back(Node{5, 0, 5, 0});
              Poly(m, {0, 1, 4, 2, 3});
          }},
-        {"piggyback-numbers", [](MoxBuilder& m) { AddLines(m, 0, 100); }},
+        {"piggyback-numbers", [](MoxBuilder& m) { AddLines(m, 100); }},
         {"unused-node",
          [](MoxBuilder& m) {
              m.nodes.push_back(Node{1, 2, 3, 0});
          }},
         {"same-hardpoint-code",
          [](MoxBuilder& m) {
-             m.streams[0] = StreamBytes()
-                                .Raw({m.streams[0].begin(), m.streams[0].end() - 1})
-                                .Hardpoint(25, 0)
-                                .Hardpoint(25, 1)
-                                .Hardpoint(1, 2)
-                                .Hardpoint(1, 3)
-                                .End()
-                                .bytes;
+             Append(m, [](StreamBytes& s) {
+                 s.Hardpoint(25, 0).Hardpoint(25, 1).Hardpoint(1, 2).Hardpoint(1, 3);
+             });
          }},
     };
     for (const RuleRow& row : rows) {
@@ -192,7 +193,7 @@ TEST(ModelCheck, TextureAndFamilyRulesAndTheExitStatus) {
         bool mainHardpoint;
         bool connectedFile;
     };
-    const std::vector<FileRow> rows = {
+    const FileRow rows[] = {
         {"", true, true, true},
         {"texture", false, false, false},
         {"family-hardpoint", true, true, false},
@@ -204,11 +205,7 @@ TEST(ModelCheck, TextureAndFamilyRulesAndTheExitStatus) {
         MoxBuilder main = Square();
         main.SetTexture("PLANE.TPC");
         if (row.mainHardpoint)
-            main.streams[0] = StreamBytes()
-                                  .Raw({main.streams[0].begin(), main.streams[0].end() - 1})
-                                  .Hardpoint(25, 0)
-                                  .End()
-                                  .bytes;
+            Append(main, [](StreamBytes& s) { s.Hardpoint(25, 0); });
         WriteTestFile(dir.file("PLANEF.MOX"), main.Build());
         if (row.connectedFile) {
             MoxBuilder connected = Square();
@@ -218,15 +215,10 @@ TEST(ModelCheck, TextureAndFamilyRulesAndTheExitStatus) {
         if (row.texture)
             WriteTestFile(dir.file("PLANE.PCX"),
                           EncodePcx8(4, 4, TestIndices(4, 4, 1), TestPalette()));
-
-        testing::internal::CaptureStdout();
-        const int status = RunMoxtool({"check", "--family", "--json", dir.file("PLANEF.MOX")});
-        const Json findings = Json::parse(testing::internal::GetCapturedStdout());
-        EXPECT_EQ(status, kExitOk);
-        std::set<std::string> rules;
-        for (const Json& finding : findings)
-            rules.insert(finding.at("rule").get<std::string>());
-        EXPECT_EQ(rules, *row.rule ? std::set<std::string>{row.rule} : std::set<std::string>{});
+        const ToolRun run = RunTool({"check", "--family", "--json", dir.file("PLANEF.MOX")});
+        EXPECT_EQ(run.status, kExitOk);
+        EXPECT_EQ(JsonRules(Json::parse(run.out)),
+                  *row.rule ? std::set<std::string>{row.rule} : std::set<std::string>{});
     }
 
     // Errors give status 1, an unreadable file 2.
@@ -234,15 +226,40 @@ TEST(ModelCheck, TextureAndFamilyRulesAndTheExitStatus) {
     MoxBuilder broken = Square();
     broken.children = {{7, kNoElement}};
     WriteTestFile(dir.file("BROKEN.MOX"), broken.Build());
-    testing::internal::CaptureStdout();
-    EXPECT_EQ(RunMoxtool({"check", dir.file("BROKEN.MOX")}), kExitFindings);
-    EXPECT_NE(testing::internal::GetCapturedStdout().find(
-                  ": error: element 0: PART(0) names element 7, beyond the 1 elements "
-                  "[element-reference]\n"),
+    const ToolRun run = RunTool({"check", dir.file("BROKEN.MOX")});
+    EXPECT_EQ(run.status, kExitFindings);
+    EXPECT_NE(run.out.find(": error: element 0: PART(0) names element 7, beyond the 1 elements "
+                           "[element-reference]\n"),
               std::string::npos);
-    testing::internal::CaptureStderr();
-    EXPECT_EQ(RunMoxtool({"check", dir.file("NONE.MOX")}), kExitFailure);
-    testing::internal::GetCapturedStderr();
+    EXPECT_EQ(RunTool({"check", dir.file("NONE.MOX")}).status, kExitFailure);
+}
+
+// A plane without a normal or turned round is set again from the element's polygons.
+TEST(ModelCheck, FixPlanesRestoresASpoiledPlane) {
+    const std::pair<const char*, NRMRecord> rows[] = {
+        {"zero-normal", NRMRecord{}},
+        {"facing-against-normal", NRMRecord{0, int16_t(-kOne), 0, 0, 0}},
+    };
+    for (const auto& [rule, spoiled] : rows) {
+        SCOPED_TRACE(rule);
+        TempDir dir;
+        MoxBuilder model = Square();
+        const NRMRecord sound = model.planes[0];
+        model.planes[0] = spoiled;
+        WriteTestFile(dir.file("S.MOX"), model.Build());
+        ToolRun run = RunTool({"check", "--json", dir.file("S.MOX")});
+        // The square names no texture file: that finding stays.
+        EXPECT_EQ(JsonRules(Json::parse(run.out)), (std::set<std::string>{rule, "texture"}));
+
+        run = RunTool({"check", "--json", dir.file("S.MOX"), "--fix-planes", dir.file("F.MOX")});
+        const Json fixes = Json::parse(run.out);
+        ASSERT_EQ(fixes.back().at("severity"), "fixed") << fixes.dump();
+        const NRMRecord fixed = READ_MOX(dir.file("F.MOX"), 0).NRM[0];
+        EXPECT_EQ(std::tie(fixed.X, fixed.Y, fixed.Z, fixed.D, fixed.F),
+                  std::tie(sound.X, sound.Y, sound.Z, sound.D, sound.F));
+        EXPECT_EQ(JsonRules(Json::parse(RunTool({"check", "--json", dir.file("F.MOX")}).out)),
+                  std::set<std::string>{"texture"});
+    }
 }
 
 } // namespace

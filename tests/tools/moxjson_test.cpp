@@ -113,7 +113,6 @@ TEST(MoxJson, RefusesABadValueNamingItsPath) {
          },
          "texture: holds a character above U+00FF"},
         {[](Json& j) { j["num_parts"] = 3; }, "parts: 1 entries, num_parts - 1 is 2"},
-        {[](Json& j) { j["parts"][0]["num"] = 256; }, "parts[0].num: 256 is out of range 0 to 255"},
         {[](Json& j) { j["planes"][1]["d"] = 4294967296; },
          "planes[1].d: 4294967296 is out of range -2147483648 to 2147483647"},
         {[](Json& j) { j["root"] = Json::array({1}); }, "root: 1 entries, a root is a pair"},
@@ -121,21 +120,12 @@ TEST(MoxJson, RefusesABadValueNamingItsPath) {
              j["children"][0] = Json::array({1, 2, 3});
          },
          "children[0]: not a pair"},
-        {[](Json& j) { j["num_nodes"] = 2; }, "nodes: 3 entries, num_nodes is 2"},
-        {[](Json& j) { j["nodes"][2].erase("b"); }, "nodes[2].b: missing"},
-        {[](Json& j) { j["num_elements"] = 1; }, "planes: 2 entries, num_elements is 1"},
         {[](Json& j) { j["elements"][0][0]["nodes"].push_back(1); },
          "elements[0][0].nodes: 4 entries, crn is 3"},
-        {[](Json& j) { j["elements"][0][0]["ymap"] = Json::array({1}); },
-         "elements[0][0].ymap: 1 entries, crn is 3"},
         {[](Json& j) {
              j["elements"][0][1]["nodes"] = Json::array({1, 2, 3});
          },
          "elements[0][1].nodes: 3 entries, type 1 has 2"},
-        {[](Json& j) { j["elements"][0][3]["nodes"] = Json::array(); },
-         "elements[0][3].nodes: 0 entries, type 2 has 1"},
-        {[](Json& j) { j["elements"][0][2].erase("xmap"); }, "elements[0][2].xmap: missing"},
-        {[](Json& j) { j["elements"][0][0].erase("att2"); }, "elements[0][0].att2: missing"},
         {[](Json& j) { j["elements"][0][1]["cod"] = 3; },
          "elements[0][1].cod: 3 is not 0 nor 7 to 254"},
         {[](Json& j) { j["elements"][0][1]["type"] = 77; },
@@ -143,7 +133,6 @@ TEST(MoxJson, RefusesABadValueNamingItsPath) {
         {[](Json& j) { j["elements"][1][0]["nodes"] = Json::array({1}); },
          "elements[1][0].nodes: 1 entries, type 255 has 0"},
         {[](Json& j) { j["elements"][1] = 5; }, "elements[1]: not a list"},
-        {[](Json& j) { j["elements"][0][0] = Json::array(); }, "elements[0][0]: not an object"},
         {[](Json& j) { j = Json::array(); }, "(top): not an object"},
     };
     for (const Case& c : cases) {

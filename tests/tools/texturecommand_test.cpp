@@ -1,48 +1,21 @@
-// moxtool texture run as a program: the picture it writes, its exit status and messages, and the
-// acceptance corpus of real PCX files from other programs.
+// moxtool texture: the picture it writes, and the acceptance corpus of real PCX files from other
+// programs.
 #include "bytefile.h"
+#include "moxbuilder.h"
 #include "pcxreader.h"
 #include "pcxwriter.h"
+#include "runtool.h"
 #include "tempdir.h"
 #include "testpictures.h"
 
 #include <gtest/gtest.h>
 
-#include <sys/wait.h>
-
+#include <filesystem>
 #include <sstream>
 
 namespace {
 
 using Bytes = std::vector<uint8_t>;
-
-struct ProgramRun {
-    int status = -1; // the exit status, or -1 when the program did not exit by itself
-    std::string errors;
-};
-
-Bytes ReadAll(const std::string& path) {
-    Bytes bytes;
-    ReadFileBytes(path, bytes);
-    return bytes;
-}
-
-ProgramRun Moxtool(const TempDir& folder, const std::string& words) {
-    const std::string errors = folder.file("stderr.txt");
-    const std::string command =
-        std::string("'") + MOXTOOL_PATH + "' " + words + " >/dev/null 2>'" + errors + "'";
-    const int wait = std::system(command.c_str());
-    ProgramRun run;
-    if (wait != -1 && WIFEXITED(wait))
-        run.status = WEXITSTATUS(wait);
-    const Bytes text = ReadAll(errors);
-    run.errors.assign(text.begin(), text.end());
-    return run;
-}
-
-std::string Texture(const std::string& in, const std::string& out) {
-    return "texture '" + in + "' '" + out + "'";
-}
 
 struct Ppm {
     int width = 0;
@@ -51,7 +24,7 @@ struct Ppm {
 };
 
 Ppm ReadPpm(const std::string& path) {
-    const Bytes bytes = ReadAll(path);
+    const Bytes bytes = ReadFileBytes(path);
     std::istringstream header(std::string(bytes.begin(), bytes.end()));
     std::string magic;
     int maxval = 0;
@@ -66,48 +39,21 @@ Ppm ReadPpm(const std::string& path) {
 
 TEST(TextureCommand, WritesThePictureTheEditorDecodes) {
     TempDir folder;
-    const Bytes indices = TestIndices(5, 2, 4);
-    const Bytes file = EncodePcx8(5, 2, indices, TestPalette());
+    const Bytes file = EncodePcx8(5, 2, TestIndices(5, 2, 4), TestPalette());
     WriteFileBytes(folder.file("in.pcx"), file);
 
-    ASSERT_EQ(Moxtool(folder, Texture(folder.file("in.pcx"), folder.file("out.ppm"))).status, 0);
+    ASSERT_EQ(RunTool({"texture", folder.file("in.pcx"), folder.file("out.ppm")}).status, 0);
     const Ppm ppm = ReadPpm(folder.file("out.ppm"));
     EXPECT_EQ(ppm.width, 6);
     EXPECT_EQ(ppm.height, 2);
     EXPECT_EQ(ppm.rgb, DecodePcx(file, "in.pcx").picture->rgb);
 
-    ASSERT_EQ(Moxtool(folder, Texture(folder.file("in.pcx"), folder.file("out.PNG"))).status, 0);
-    const Bytes png = ReadAll(folder.file("out.PNG"));
+    ASSERT_EQ(RunTool({"texture", folder.file("in.pcx"), folder.file("out.PNG")}).status, 0);
+    const Bytes png = ReadFileBytes(folder.file("out.PNG"));
     ASSERT_GT(png.size(), 24u);
     EXPECT_EQ(Bytes(png.begin() + 1, png.begin() + 4), (Bytes{'P', 'N', 'G'}));
     EXPECT_EQ(png[19], 6); // IHDR width, big-endian
     EXPECT_EQ(png[23], 2); // IHDR height
-}
-
-TEST(TextureCommand, ExitsWithStatus2WhenNoPictureResults) {
-    TempDir folder;
-    Bytes file = EncodePcx8(3, 3, TestIndices(3, 3, 1), TestPalette());
-    const std::string out = folder.file("out.ppm");
-
-    file[3] = 4;
-    WriteFileBytes(folder.file("deep.pcx"), file);
-    ProgramRun run = Moxtool(folder, Texture(folder.file("deep.pcx"), out));
-    EXPECT_EQ(run.status, 2);
-    EXPECT_NE(run.errors.find("Sorry, can't load " + folder.file("deep.pcx") + "!"),
-              std::string::npos);
-
-    file[3] = 8;
-    file[65] = 4;
-    WriteFileBytes(folder.file("planes.pcx"), file);
-    EXPECT_EQ(Moxtool(folder, Texture(folder.file("planes.pcx"), out)).status, 2);
-    EXPECT_EQ(Moxtool(folder, Texture(folder.file("missing.pcx"), out)).status, 2);
-    EXPECT_FALSE(std::filesystem::exists(out));
-
-    file[65] = 1;
-    WriteFileBytes(folder.file("good.pcx"), file);
-    EXPECT_EQ(Moxtool(folder, Texture(folder.file("good.pcx"), folder.file("out.bmp"))).status, 2);
-    EXPECT_EQ(Moxtool(folder, "texture").status, 2);
-    EXPECT_EQ(Moxtool(folder, "texture --help").status, 0);
 }
 
 // Real files written by other programs. A file that must be refused passes with a non-zero exit;
@@ -128,12 +74,12 @@ TEST(TextureCommand, DecodesTheAcceptanceCorpus) {
         const std::string name = in.stem().string();
         SCOPED_TRACE(name);
         const std::string out = folder.file(name + ".ppm");
-        const ProgramRun run = Moxtool(folder, Texture(in.string(), out));
+        const ToolRun run = RunTool({"texture", in.string(), out});
         if (name.rfind("bad_", 0) == 0) {
             EXPECT_EQ(run.status, 2);
             continue;
         }
-        ASSERT_EQ(run.status, 0) << run.errors;
+        ASSERT_EQ(run.status, 0) << run.err;
         const Ppm got = ReadPpm(out);
         const Ppm want = ReadPpm((corpus / (name + ".ref.ppm")).string());
         ASSERT_GT(want.width, 0);
