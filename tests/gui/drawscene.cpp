@@ -30,12 +30,7 @@ TestFile::TestFile() {
 }
 
 uint8_t TestFile::AddNode(int16_t x, int16_t y, int16_t z, int16_t body) {
-    Node node;
-    node.X = x;
-    node.Y = y;
-    node.Z = z;
-    node.B = body;
-    record.Nodes.back() = node;
+    record.Nodes.back() = Node{y, z, x, body};
     record.Nodes.emplace_back();
     return static_cast<uint8_t>(record.NumNodes++);
 }
@@ -112,13 +107,11 @@ QPoint OnScreen(double x, double y, double z) {
     glGetDoublev(GL_MODELVIEW_MATRIX, modelview.data());
     glGetDoublev(GL_PROJECTION_MATRIX, projection.data());
     glGetIntegerv(GL_VIEWPORT, viewport.data());
-    GLdouble windowX = 0;
-    GLdouble windowY = 0;
-    GLdouble windowZ = 0;
-    gluProject(x, y, z, modelview.data(), projection.data(), viewport.data(), &windowX, &windowY,
-               &windowZ);
-    return {static_cast<int>(std::lround(windowX)),
-            viewport[3] - 1 - static_cast<int>(std::lround(windowY))};
+    std::array<GLdouble, 3> window{};
+    gluProject(x, y, z, modelview.data(), projection.data(), viewport.data(), &window[0],
+               &window[1], &window[2]);
+    return {static_cast<int>(std::lround(window[0])),
+            viewport[3] - 1 - static_cast<int>(std::lround(window[1]))};
 }
 
 int32_t StripTexture(const std::vector<Rgb>& texels) {

@@ -10,7 +10,9 @@
 
 #include <GL/gl.h>
 
+#include <functional>
 #include <limits>
+#include <tuple>
 
 namespace {
 
@@ -22,6 +24,12 @@ bool Near(const Rgb& a, const Rgb& b) {
 
 Rgb At(const QImage& frame, const QPoint& point) {
     return PixelAt(frame, point.x(), point.y());
+}
+
+// The colour at the model point (x, 0, z), read as `expected` when it lies near enough to it.
+Rgb Seen(const QImage& frame, double x, double z, const Rgb& expected) {
+    const Rgb seen = At(frame, OnScreen(x, 0, z));
+    return Near(seen, expected) ? expected : seen;
 }
 
 const Rgb kOrange{255, 128, 38};
@@ -52,20 +60,17 @@ TEST_F(EditorTest, AFileWithoutElementsPaintsItsNodesSizedByTheLineWeight) {
     CurrentModel().m_currnode = 1;
 
     const QImage frame = ReadFrame();
-    const QPoint plain = OnScreen(-20, 0, 0);
-    const QPoint selected = OnScreen(20, 0, 0);
-    EXPECT_TRUE(Near(At(frame, plain), kBlue)) << ::testing::PrintToString(At(frame, plain));
-    EXPECT_TRUE(Near(At(frame, selected), kOrange))
-        << ::testing::PrintToString(At(frame, selected));
+    EXPECT_EQ(Seen(frame, -20, 0, kBlue), kBlue);
+    EXPECT_EQ(Seen(frame, 20, 0, kOrange), kOrange);
     // (3 * 2 + 20) and 50 point units of one pixel each.
-    EXPECT_NEAR(RunThrough(frame, plain), 26, 1);
-    EXPECT_NEAR(RunThrough(frame, selected), 50, 1);
+    EXPECT_NEAR(RunThrough(frame, OnScreen(-20, 0, 0)), 26, 1);
+    EXPECT_NEAR(RunThrough(frame, OnScreen(20, 0, 0)), 50, 1);
 
     // Without the nodes nothing is left but sky.
     View().mnu_v_nodes = false;
     const QImage empty = ReadFrame();
-    EXPECT_EQ(At(empty, plain), kStartSky);
-    EXPECT_EQ(At(empty, selected), kStartSky);
+    EXPECT_EQ(Seen(empty, -20, 0, kStartSky), kStartSky);
+    EXPECT_EQ(Seen(empty, 20, 0, kStartSky), kStartSky);
 }
 
 TEST_F(EditorTest, StateCodesHidePolygonsButNotHardpoints) {
@@ -78,8 +83,8 @@ TEST_F(EditorTest, StateCodesHidePolygonsButNotHardpoints) {
     for (int pilot : {0, 1, 2}) {
         CurrentModel().m_pilot = pilot;
         const QImage frame = ReadFrame();
-        EXPECT_EQ(Near(At(frame, OnScreen(-20, 0, 0)), kWhite), pilot == 2) << "pilot " << pilot;
-        EXPECT_TRUE(Near(At(frame, OnScreen(20, 0, 0)), kBlack)) << "pilot " << pilot;
+        EXPECT_EQ(Seen(frame, -20, 0, kWhite) == kWhite, pilot == 2) << "pilot " << pilot;
+        EXPECT_EQ(Seen(frame, 20, 0, kBlack), kBlack) << "pilot " << pilot;
     }
 }
 
@@ -96,33 +101,25 @@ TEST_F(EditorTest, OutlinesSelectionAndCulling) {
     Program().LineWeight = 3;
     const Rgb texture{200, 160, 40};
 
-    // The line and the NULL entry paint nothing, and the back face is culled.
-    QImage frame = ReadFrame();
-    const QPoint centre = OnScreen(-20, 0, 0);
-    const QPoint edge = OnScreen(-30, 0, 0);
-    EXPECT_TRUE(Near(At(frame, centre), texture)) << ::testing::PrintToString(At(frame, centre));
-    EXPECT_TRUE(Near(At(frame, edge), texture));
-    EXPECT_EQ(At(frame, OnScreen(20, 0, 0)), kStartSky);
-    EXPECT_EQ(At(frame, OnScreen(0, 0, 25)), kStartSky);
-
-    // Face outlines paint the front face's edges in white over the texture.
-    View().mnu_v_faces = true;
-    frame = ReadFrame();
-    EXPECT_TRUE(Near(At(frame, centre), texture));
-    EXPECT_TRUE(Near(At(frame, edge), kWhite)) << ::testing::PrintToString(At(frame, edge));
-
-    // The selected piggyback is red-tinted over its texture and solid red in line view.
-    CurrentModel().m_currelem = 0;
-    frame = ReadFrame();
-    EXPECT_TRUE(Near(At(frame, centre), (Rgb{200, 0, 0})));
-    View().mnu_v_texture = false;
-    frame = ReadFrame();
-    EXPECT_TRUE(Near(At(frame, centre), kRed));
-    // In another file's selection it is only an outline in the line colour.
-    CurrentModel().m_currmox = 1;
-    frame = ReadFrame();
-    EXPECT_EQ(At(frame, centre), kStartSky);
-    EXPECT_TRUE(Near(At(frame, edge), kWhite));
+    // After each change: the front face's centre and edge, the back face's centre, the line.
+    const std::tuple<std::function<void()>, Rgb, Rgb> steps[] = {
+        // The line and the NULL entry paint nothing, and the back face is culled.
+        {[] {}, texture, texture},
+        // Face outlines paint the front face's edges in white over the texture.
+        {[] { View().mnu_v_faces = true; }, texture, kWhite},
+        // The selected piggyback is red-tinted over its texture and solid red in line view, its
+        // edges red.
+        {[] { CurrentModel().m_currelem = 0; }, {200, 0, 0}, kRed},
+        {[] { View().mnu_v_texture = false; }, kRed, kRed},
+        // In another file's selection it is only an outline in the line colour.
+        {[] { CurrentModel().m_currmox = 1; }, kStartSky, kWhite}};
+    for (const auto& [change, centre, edge] : steps) {
+        change();
+        const QImage frame = ReadFrame();
+        EXPECT_EQ((std::vector<Rgb>{Seen(frame, -20, 0, centre), Seen(frame, -30, 0, edge),
+                                    Seen(frame, 20, 0, kStartSky), Seen(frame, 0, 25, kStartSky)}),
+                  (std::vector<Rgb>{centre, edge, kStartSky, kStartSky}));
+    }
 }
 
 TEST_F(EditorTest, AxisLinesAreTenUnitsLongAtEveryZoom) {
@@ -136,10 +133,10 @@ TEST_F(EditorTest, AxisLinesAreTenUnitsLongAtEveryZoom) {
     for (float zoom : {-100.0f, -300.0f}) {
         CurrentModel().m_zoom = zoom;
         const QImage frame = ReadFrame();
-        EXPECT_TRUE(Near(At(frame, OnScreen(4.5, 0, -5)), kRed)) << "zoom " << zoom;
-        EXPECT_EQ(At(frame, OnScreen(5.5, 0, -5)), kStartSky) << "zoom " << zoom;
-        EXPECT_TRUE(Near(At(frame, OnScreen(-5, 0, 4.5)), kBlue)) << "zoom " << zoom;
-        EXPECT_EQ(At(frame, OnScreen(-5, 0, 5.5)), kStartSky) << "zoom " << zoom;
+        EXPECT_EQ((std::vector<Rgb>{Seen(frame, 4.5, -5, kRed), Seen(frame, 5.5, -5, kStartSky),
+                                    Seen(frame, -5, 4.5, kBlue), Seen(frame, -5, 5.5, kStartSky)}),
+                  (std::vector<Rgb>{kRed, kStartSky, kBlue, kStartSky}))
+            << "zoom " << zoom;
     }
     // The X line is ticked, so it is 2 pixels wider than the line weight; Z is not.
     CurrentModel().m_zoom = -100.0f;
@@ -184,10 +181,10 @@ TEST_F(EditorTest, BrokenPiggybacksAreAbandonedAndLaterOnesStillPaint) {
     CurrentModel().m_currelem = 3;
 
     const QImage frame = ReadFrame();
-    EXPECT_TRUE(Near(At(frame, OnScreen(20, 0, 0)), kWhite));
-    EXPECT_TRUE(Near(At(frame, OnScreen(20, 0, 20)), kWhite));
     // Each abandoned square lost its first painted corner, so nothing of it shows.
-    EXPECT_EQ(At(frame, OnScreen(-20, 0, -3)), kStartSky);
+    EXPECT_EQ((std::vector<Rgb>{Seen(frame, 20, 0, kWhite), Seen(frame, 20, 20, kWhite),
+                                Seen(frame, -20, -3, kStartSky)}),
+              (std::vector<Rgb>{kWhite, kWhite, kStartSky}));
 
     ASSERT_TRUE(OGL().MakeCurrent());
     const DrawSettings settings = DrawSettingsOf(CurrentFrameSource());

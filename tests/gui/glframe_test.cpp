@@ -34,22 +34,21 @@ void ExpectSkyEverywhere(const QImage& frame, const char* what) {
 TEST_F(EditorTest, AFrameWithNothingToPaintIsTheSkyColourInEveryView) {
     ASSERT_TRUE(WaitForFrames(2));
     ExpectSkyEverywhere(GrabShownFrame(), "shown frame");
-    ExpectSkyEverywhere(ReadFrame(), "perspective frame");
     model& current = CurrentModel();
-    current.M_Type = kMoyLoaded;
-    ExpectSkyEverywhere(ReadFrame(), "frame of a .moy load");
-    current.M_Type = kMoxLoaded; // and not one file in Files
-    ExpectSkyEverywhere(ReadFrame(), "a family without files");
-    current.Files.resize(2);
-    current.m_currmox = 5;
-    View().chk_thismox = true;
-    ExpectSkyEverywhere(ReadFrame(), "a current file beyond the family");
-    current.m_currmox = -1;
-    ExpectSkyEverywhere(ReadFrame(), "a negative current file");
-    View().chk_thismox = false;
-    ExpectSkyEverywhere(ReadFrame(), "a family shorter than its slots");
-    View().ViewMode = kTopView;
-    ExpectSkyEverywhere(ReadFrame(), "top view frame");
+    // Each change on top of the ones before it.
+    const std::pair<const char*, std::function<void()>> steps[] = {
+        {"perspective frame", [] {}},
+        {"frame of a .moy load", [&] { current.M_Type = kMoyLoaded; }},
+        {"a family without files", [&] { current.M_Type = kMoxLoaded; }},
+        {"a current file beyond the family",
+         [&] { current.Files.resize(2), current.m_currmox = 5, View().chk_thismox = true; }},
+        {"a negative current file", [&] { current.m_currmox = -1; }},
+        {"a family shorter than its slots", [] { View().chk_thismox = false; }},
+        {"top view frame", [] { View().ViewMode = kTopView; }}};
+    for (const auto& [what, change] : steps) {
+        change();
+        ExpectSkyEverywhere(ReadFrame(), what);
+    }
 }
 
 TEST_F(EditorTest, AViewOfHeightZeroGetsAViewportOfHeightOne) {
@@ -66,20 +65,12 @@ TEST_F(EditorTest, AViewOfHeightZeroGetsAViewportOfHeightOne) {
         ASSERT_TRUE(std::isfinite(value));
     // gluPerspective scales x by the aspect ratio less than y: 640 / 1.
     EXPECT_FLOAT_EQ(projection[5] / projection[0], 640.0f);
-
-    std::array<GLint, 1> matrixMode{};
-    glGetIntegerv(GL_MATRIX_MODE, matrixMode.data());
-    EXPECT_EQ(matrixMode[0], GL_MODELVIEW);
 }
 
 TEST_F(EditorTest, ThePerspectiveCameraFollowsTheModelsCameraFields) {
     model& current = CurrentModel();
-    current.m_xpos = 3.0f;
-    current.m_ypos = -2.0f;
-    current.m_zoom = -250.0f;
-    current.m_xrot = 135.0f;
-    current.m_yrot = 10.0f;
-    current.m_bank = 20.0f;
+    std::tie(current.m_xpos, current.m_ypos, current.m_zoom, current.m_xrot, current.m_yrot,
+             current.m_bank) = std::make_tuple(3.0f, -2.0f, -250.0f, 135.0f, 10.0f, 20.0f);
     ASSERT_TRUE(OGL().MakeCurrent());
     OGL().RenderFrame();
     QMatrix4x4 expected;

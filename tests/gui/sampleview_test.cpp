@@ -6,7 +6,6 @@
 #include "editorfixture.h"
 #include "oglgraphics.h"
 #include "tempdir.h"
-#include "viewsettings.h"
 
 #include <filesystem>
 #include <string>
@@ -40,10 +39,6 @@ TEST_F(EditorTest, TheSampleFighterOpensAssembledAndTexturedAndYesSavesEveryFile
         EXPECT_NE(opened.Files[slot].TextureID, 0) << "slot " << slot;
     EXPECT_FALSE(opened.Files[1].Loaded);
     EXPECT_EQ(Window().windowTitle().toStdString(), "Skylathe - PDEMOF.MOX");
-    EXPECT_EQ(View().ViewMode, kPerspectiveView);
-    EXPECT_EQ(opened.m_zoom, -250.0f);
-    EXPECT_EQ(opened.m_xrot, 135.0f);
-    EXPECT_EQ(View().ModifyAxis, 30000);
     EXPECT_EQ(opened.m_currelem, -1);
 
     const QImage frame = ReadFrame();
