@@ -124,14 +124,12 @@ TEST_F(ViewInputTest, ClickSelectsByTabAndRanksByDepth) {
         QTest::mouseClick(&Surface(), Qt::LeftButton, {}, pixel);
         EXPECT_EQ(current.m_currelem, row.elem);
         EXPECT_EQ(current.m_currnode, row.node);
-        if (row.spins == kUntouched) {
-            EXPECT_EQ(Spin("upd_3_elem") * 100 + Spin("upd_3_pb"), kUntouched * 101);
-            EXPECT_EQ(Spin("upd_4_node"), kUntouched);
-        } else if (row.tab == kNodesTab) {
-            EXPECT_EQ(Spin("upd_4_node"), row.spins);
-        } else {
-            EXPECT_EQ(Spin("upd_3_elem") * 100 + Spin("upd_3_pb"), row.spins);
-        }
+        const std::array<int, 2> spins{Spin("upd_3_elem") * 100 + Spin("upd_3_pb"),
+                                       Spin("upd_4_node")};
+        if (row.spins == kUntouched)
+            EXPECT_EQ(spins, (std::array<int, 2>{kUntouched * 101, kUntouched}));
+        else
+            EXPECT_EQ(spins[row.tab == kNodesTab], row.spins);
     }
 }
 
@@ -178,9 +176,8 @@ TEST_F(ViewInputTest, MoveToolPressChoosesAxisAndDragMovesNode) {
         QTest::mouseMove(&Surface(), jump + drag.motion);
         QTest::mouseRelease(&Surface(), Qt::LeftButton, {}, jump + drag.motion);
         QTest::mouseMove(&Surface(), start);
-        EXPECT_EQ(Spin("upd_4_x"), drag.x);
-        EXPECT_EQ(Spin("upd_4_y"), drag.y);
-        EXPECT_EQ(Spin("upd_4_z"), drag.z);
+        EXPECT_EQ(std::make_tuple(Spin("upd_4_x"), Spin("upd_4_y"), Spin("upd_4_z")),
+                  std::make_tuple(drag.x, drag.y, drag.z));
     }
 }
 

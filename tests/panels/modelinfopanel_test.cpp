@@ -20,9 +20,9 @@ TEST_F(PanelTest, ModelInfoFillShowsTheHeadAndSetsTheChoosers) {
                                    Text("txt_1_numnodes")};
         EXPECT_EQ(shown,
                   QStringList({"-35", "SKIN.TPC", QString::number(partRecords + 1), "1", "7"}));
-        EXPECT_EQ(Spin("upd_2_part").isEnabled(), partRecords > 0);
-        EXPECT_EQ(Spin("upd_2_part").maximum(), std::max(partRecords - 1, 0));
-        EXPECT_EQ(Spin("upd_4_node").maximum(), 6);
+        EXPECT_EQ(std::make_tuple(Spin("upd_2_part").isEnabled(), Spin("upd_2_part").maximum(),
+                                  Spin("upd_4_node").maximum()),
+                  std::make_tuple(partRecords > 0, std::max(partRecords - 1, 0), 6));
     }
 }
 
@@ -51,13 +51,12 @@ TEST_F(PanelTest, ChoosingAConnectedFileThatIsNotLoaded) {
     current.Files[2].Radius = 222;
     current.m_currelem = 5;
     Choose("cbo_1_mox", 2);
-    EXPECT_EQ(current.m_currmox, 2);
-    EXPECT_EQ(current.m_currelem, 0);
-    EXPECT_EQ(Text("txt_1_radius"), "222");
+    EXPECT_EQ(std::make_tuple(current.m_currmox, current.m_currelem, Text("txt_1_radius")),
+              std::make_tuple(2, 0, QString("222")));
     Choose("cbo_1_mox", 3);
     EXPECT_EQ(host.messages, (std::vector<std::string>{"Model Not Loaded", "Model Not Loaded"}));
-    EXPECT_EQ(current.m_currmox, 0);
-    EXPECT_EQ(Find<QComboBox>("cbo_1_mox").currentIndex(), 0);
+    EXPECT_EQ(std::make_tuple(current.m_currmox, Find<QComboBox>("cbo_1_mox").currentIndex()),
+              std::make_tuple(0, 0));
 }
 
 } // namespace

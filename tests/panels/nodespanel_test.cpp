@@ -21,8 +21,8 @@ TEST_F(PanelTest, NodesFillShowsTheChosenNodeAndWritesNothing) {
     current.m_currnode = -1;
     Enter("txt_4_y", "77");
     current.WriteInfo(kNodesTab);
-    EXPECT_EQ(Text("txt_4_y"), "77");
-    EXPECT_EQ(current.Files[0].Nodes[1].Y, 77);
+    EXPECT_EQ(std::make_pair(Text("txt_4_y"), current.Files[0].Nodes[1].Y),
+              std::make_pair(QString("77"), int16_t{77}));
 }
 
 TEST_F(PanelTest, NodeTableButtonsShowTheTableTheyLeave) {
@@ -43,10 +43,9 @@ TEST_F(PanelTest, NodeTableButtonsShowTheTableTheyLeave) {
     host.answers = {MessageAnswer::Yes};
     Click("cmd_3_unused");
     EXPECT_EQ(host.messages.back(), "Do you want to delete all 2 unused nodes?");
-    EXPECT_EQ(current.Files[0].NumNodes, 1);
-    EXPECT_EQ(Spin("upd_4_node").value(), 0);
-    EXPECT_EQ(Spin("upd_4_node").maximum(), 0);
-    EXPECT_EQ(Text("txt_4_x"), "1");
+    EXPECT_EQ(std::make_tuple(current.Files[0].NumNodes, Spin("upd_4_node").value(),
+                              Spin("upd_4_node").maximum(), Text("txt_4_x")),
+              std::make_tuple(int16_t{1}, 0, 0, QString("1")));
 }
 
 } // namespace

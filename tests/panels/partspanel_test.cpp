@@ -31,10 +31,13 @@ TEST_F(PanelTest, PartsFillShowsThePredefinedRowOfCodeAndNum) {
         Open(file).WriteInfo(kPartsTab);
         // A fill that stops leaves the lists as the fill before showed them.
         const Row& listed = rows[r].code <= 2 ? rows[r] : rows[r - 1];
-        EXPECT_EQ(Find<QComboBox>("cbo_2_predef").currentText(), listed.shown) << r;
-        EXPECT_EQ(Find<QComboBox>("cbo_2_code").currentIndex(), listed.code) << r;
-        EXPECT_EQ(Find<QComboBox>("cbo_2_num").currentIndex(), listed.num) << r;
-        EXPECT_EQ(QStringList({Text("txt_2_x"), Text("txt_2_y")}), QStringList({"3", "1"}));
+        EXPECT_EQ(QStringList({Find<QComboBox>("cbo_2_predef").currentText(),
+                               QString::number(Find<QComboBox>("cbo_2_code").currentIndex()),
+                               QString::number(Find<QComboBox>("cbo_2_num").currentIndex()),
+                               Text("txt_2_x"), Text("txt_2_y")}),
+                  QStringList({listed.shown, QString::number(listed.code),
+                               QString::number(listed.num), "3", "1"}))
+            << r;
     }
 }
 
@@ -43,21 +46,18 @@ TEST_F(PanelTest, PartsChoicesWriteTheShownPart) {
     file.parts = {Part{0, 0, 1, 2, 3}, Part{1, 1, 4, 5, 6}};
     model& current = Open(file);
     Spin("upd_2_part").setValue(1);
-    EXPECT_EQ(Text("txt_2_part"), "1");
-    EXPECT_EQ(Text("txt_2_z"), "5");
+    EXPECT_EQ(QStringList({Text("txt_2_part"), Text("txt_2_z")}), QStringList({"1", "5"}));
 
     Choose("cbo_2_predef", 5);
     const Part& part = current.Files[0].Parts[1];
-    EXPECT_EQ(part.Code, 2);
-    EXPECT_EQ(part.Num, 4);
+    EXPECT_EQ(std::make_pair(part.Code, part.Num), std::make_pair(uint8_t{2}, uint8_t{4}));
     current.WriteInfo(kPartsTab);
     EXPECT_EQ(Find<QComboBox>("cbo_2_predef").currentText(), "2-4 Left Eng. in Twins");
 
     Choose("cbo_2_code", 0);
     Enter("txt_2_x", "-40000");
-    EXPECT_EQ(part.Code, 0);
-    EXPECT_EQ(part.X, -32767);
-    EXPECT_EQ(current.Files[0].Parts[0].X, 3);
+    EXPECT_EQ(std::make_tuple(part.Code, part.X, current.Files[0].Parts[0].X),
+              std::make_tuple(uint8_t{0}, int16_t{-32767}, int16_t{3}));
 }
 
 } // namespace
