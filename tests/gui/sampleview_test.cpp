@@ -6,6 +6,7 @@
 #include "editorfixture.h"
 #include "oglgraphics.h"
 #include "tempdir.h"
+#include "viewsettings.h"
 
 #include <filesystem>
 #include <string>
@@ -39,6 +40,7 @@ TEST_F(EditorTest, TheSampleFighterOpensAssembledAndTexturedAndYesSavesEveryFile
         EXPECT_NE(opened.Files[slot].TextureID, 0) << "slot " << slot;
     EXPECT_FALSE(opened.Files[1].Loaded);
     EXPECT_EQ(Window().windowTitle().toStdString(), "Skylathe - PDEMOF.MOX");
+    EXPECT_EQ(View().ModifyAxis, kAxisX);
     EXPECT_EQ(opened.m_currelem, -1);
 
     const QImage frame = ReadFrame();

@@ -44,13 +44,6 @@ protected:
     void Keys(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {
         QTest::keyClick(QApplication::focusWidget(), key, modifiers);
     }
-    void Enter(const char* name, const QString& text) {
-        auto* field = Find<QLineEdit>(name);
-        QTest::mouseClick(field, Qt::LeftButton);
-        field->clear();
-        QTest::keyClicks(field, text);
-        QTest::keyClick(field, Qt::Key_Return);
-    }
     std::string Title() { return Window().windowTitle().toStdString(); }
     std::string UndoText() { return Find<QAction>("mnu_e_undo")->text().toStdString(); }
 
@@ -60,13 +53,17 @@ protected:
 
 TEST_F(UndoTest, FieldAndDeletionTakenBackWithTheKeysSaveTheFileAsItWas) {
     // The keys reach the Edit menu with the keyboard still in the field just written.
-    Enter("txt_3_att1", "77");
+    auto* field = Find<QLineEdit>("txt_3_att1");
+    QTest::mouseClick(field, Qt::LeftButton);
+    field->clear();
+    QTest::keyClicks(field, "77");
+    QTest::keyClick(field, Qt::Key_Return);
     EXPECT_EQ(Title(), "Skylathe - PDEMOF.MOX*");
     Keys(Qt::Key_Z);
-    EXPECT_EQ(Find<QLineEdit>("txt_3_att1")->text(), "0") << "the shown panel is filled again";
+    EXPECT_EQ(field->text(), "0") << "the shown panel is filled again";
     EXPECT_EQ(Title(), "Skylathe - PDEMOF.MOX");
     Keys(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_EQ(Find<QLineEdit>("txt_3_att1")->text(), "77");
+    EXPECT_EQ(field->text(), "77");
     QTest::mouseClick(Find<QPushButton>("cmd_3_delelem"), Qt::LeftButton);
     EXPECT_EQ(UndoText(), "&Undo Delete element 1");
 
