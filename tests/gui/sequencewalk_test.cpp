@@ -62,13 +62,10 @@ TEST_F(EditorTest, TheTreeOrdersItsElementsByTheSideOfThePlaneTheEyeIsOn) {
         uint8_t root;
         std::vector<int> order; // elements in the order painted
     };
-    NRMRecord alongX;
-    alongX.X = kUnitNormal;
-    NRMRecord farAlongX = alongX;
-    farAlongX.D = 5 * kUnitNormal;
-    NRMRecord upAtOne;
-    upAtOne.Z = kUnitNormal;
-    upAtOne.D = kUnitNormal;
+    // Planes as Y, Z, X and distance.
+    const NRMRecord alongX{0, 0, kUnitNormal, 0};
+    const NRMRecord farAlongX{0, 0, kUnitNormal, 5 * kUnitNormal};
+    const NRMRecord upAtOne{0, kUnitNormal, 0, kUnitNormal};
     const Row rows[] = {
         {"eye in front", alongX, 0, 0, 0, {2, 0, 1}},
         {"eye behind", alongX, 180, 0, 0, {1, 0, 2}},
