@@ -23,8 +23,7 @@ TEST_F(EditorTest, ExitWithAModelOpenAsksAndCancelKeepsTheProgramRunning) {
     Find<QAction>("mnu_f_exit")->trigger();
     ASSERT_EQ(host.messages.size(), 1u);
     EXPECT_EQ(host.messages[0], kSaveQuestion);
-    EXPECT_TRUE(OGL().bRunning);
-    EXPECT_TRUE(Window().isVisible());
+    EXPECT_TRUE(OGL().bRunning && Window().isVisible());
     const int64_t painted = Window().glView->FrameCount();
     CurrentModel().m_xrot += 10.0f;
     EXPECT_TRUE(QTest::qWaitFor([&] { return Window().glView->FrameCount() > painted; }))
@@ -32,8 +31,7 @@ TEST_F(EditorTest, ExitWithAModelOpenAsksAndCancelKeepsTheProgramRunning) {
 
     Window().close();
     EXPECT_EQ(host.messages.size(), 2u);
-    EXPECT_FALSE(OGL().bRunning);
-    EXPECT_FALSE(Window().isVisible());
+    EXPECT_FALSE(OGL().bRunning || Window().isVisible());
     EXPECT_EQ(saved.count(), 0);
 }
 
@@ -43,8 +41,7 @@ TEST_F(EditorTest, ExitWithNothingOpenAsksNothingAndEndsTheMainLoop) {
     RunMainLoop(Window());
     EXPECT_EQ(unloaded.count(), 1);
     EXPECT_TRUE(host.messages.empty());
-    EXPECT_FALSE(OGL().bRunning);
-    EXPECT_FALSE(Window().isVisible());
+    EXPECT_FALSE(OGL().bRunning || Window().isVisible());
     // With bRunning false the loop does not start again.
     RunMainLoop(Window());
 }
