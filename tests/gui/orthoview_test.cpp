@@ -63,27 +63,17 @@ void ShowView(const Camera& camera) {
 }
 
 // A closed box of six squares around the origin, each stored clockwise as seen from outside.
+// Corner k lies at -half or +half along X, Y and Z by its bits 0, 1 and 2.
 TestFile Cube(int16_t half, int32_t texture) {
     TestFile file;
     file.record.TextureID = texture;
+    const auto low = static_cast<int16_t>(-half);
+    for (int k = 0; k < 8; ++k)
+        file.AddNode(k & 1 ? half : low, k & 2 ? half : low, k & 4 ? half : low);
     std::vector<Piggyback> faces;
-    for (int axis = 0; axis < 3; ++axis) {
-        for (int sign : {1, -1}) {
-            const int u = (axis + 1) % 3;
-            const int v = (axis + 2) % 3;
-            // Counter-clockwise from outside, then reversed to the stored order.
-            const int turn[4][2] = {{-1, -1}, {1, -1}, {1, 1}, {-1, 1}};
-            std::vector<uint8_t> nodes;
-            for (int corner = 3; corner >= 0; --corner) {
-                std::array<int16_t, 3> at{};
-                at[static_cast<size_t>(axis)] = static_cast<int16_t>(sign * half);
-                at[static_cast<size_t>(u)] = static_cast<int16_t>(turn[corner][0] * half);
-                at[static_cast<size_t>(v)] = static_cast<int16_t>(sign * turn[corner][1] * half);
-                nodes.push_back(file.AddNode(at[0], at[1], at[2]));
-            }
-            faces.push_back(Polygon(kTextured, nodes));
-        }
-    }
+    for (const std::vector<uint8_t>& face : std::vector<std::vector<uint8_t>>{
+             {0, 4, 5, 1}, {3, 7, 6, 2}, {2, 6, 4, 0}, {1, 5, 7, 3}, {1, 3, 2, 0}, {4, 6, 7, 5}})
+        faces.push_back(Polygon(kTextured, face));
     file.AddElement(faces);
     return file;
 }
