@@ -6,6 +6,7 @@
 #include "moxbuilder.h"
 
 #include <cstdint>
+#include <string>
 #include <vector>
 
 // Nodes 0 to 5 named by corners, node 6 unused. Element 0: a coloured triangle (0), a Gouraud
@@ -26,3 +27,8 @@ FileRecord ReadBack(const model& m);
 // The X, Y, Z of the node of each corner of piggyback `number`: where the corner stands, whatever
 // number its node has.
 std::vector<std::vector<int>> CornerPositions(const FileRecord& file, int16_t number);
+
+// What a row of a table expects the user to be shown: nothing for an empty text.
+inline std::vector<std::string> Shown(const char* text) {
+    return text[0] == 0 ? std::vector<std::string>{} : std::vector<std::string>{text};
+}

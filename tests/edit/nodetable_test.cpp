@@ -48,8 +48,7 @@ TEST(NodeTable, RemoveNodesAsksThenZeroesOrCompactsKeepingEveryCornerInPlace) {
         model m = LoadedModel(b);
         const FileRecord before = m.Files[0];
         RemoveNodes(m, row.zero);
-        EXPECT_EQ(host.calls, row.question[0] == 0 ? std::vector<std::string>{}
-                                                   : std::vector<std::string>{row.question});
+        EXPECT_EQ(host.calls, Shown(row.question));
         if (!row.changes) {
             EXPECT_EQ(SavedBytes(m.Files[0]), SavedBytes(before));
             continue;

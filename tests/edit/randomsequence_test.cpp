@@ -91,9 +91,7 @@ TEST(RandomSequence, EveryStepOnTheSampleSavesWhatItHolds) {
         const size_t shown = host.messages.size();
         const FileRecord back = ReadMoxBytes(saved, "TESTF.MOX", 0);
         ASSERT_EQ(host.messages.size(), shown);
-        ASSERT_EQ(SavedBytes(back), saved);
-        ASSERT_EQ(back.NumNodes, file.NumNodes);
-        ASSERT_EQ(back.NumElements, file.NumElements);
+        ASSERT_EQ(SavedBytes(back), saved) << "the header's counts too";
         ASSERT_EQ(BrokenReference(back), "");
     }
 }

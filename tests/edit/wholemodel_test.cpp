@@ -58,8 +58,7 @@ TEST(WholeModel, RescaleRoundsHalvesToEvenAndRefusesOverflowWhole) {
         model m = NodesAlongX(row.before);
         Rescale(m, row.factor);
         EXPECT_EQ(Xs(m), row.after);
-        EXPECT_EQ(host.messages, row.message[0] == 0 ? std::vector<std::string>{}
-                                                     : std::vector<std::string>{row.message});
+        EXPECT_EQ(host.messages, Shown(row.message));
     }
 }
 

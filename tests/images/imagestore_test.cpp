@@ -33,10 +33,8 @@ TEST(ImageStore, IsWhiteWhenEmptyAndTellsEachPixelOfItsPicture) {
     EXPECT_FALSE(store.HasPicture());
     EXPECT_EQ(store.Point(0, 0), kWhite);
 
-    EXPECT_NE(Texture(0), nullptr);
-    EXPECT_NE(Texture(kThreeViewSlot), nullptr);
-    EXPECT_EQ(Texture(-1), nullptr);
-    EXPECT_EQ(Texture(kImageStoreCount), nullptr);
+    EXPECT_TRUE(Texture(0) != nullptr && Texture(kThreeViewSlot) != nullptr);
+    EXPECT_TRUE(Texture(-1) == nullptr && Texture(kImageStoreCount) == nullptr);
 }
 
 TEST(ImagePath, FindsAnUpperCasedNameWithWindowsSeparatorsAndTrailingBlanks) {
@@ -51,9 +49,9 @@ TEST(ImagePath, FindsAnUpperCasedNameWithWindowsSeparatorsAndTrailingBlanks) {
     named += std::string(" \0\0", 3);
     EXPECT_EQ(ResolveImagePath(named), file);
     EXPECT_EQ(ResolveImagePath(file), file);
-    EXPECT_EQ(ResolveImagePath(folder.file("Models/other.pcx")), "");
-    EXPECT_EQ(ResolveImagePath((folder.path() / "Models").string()), "");
-    EXPECT_EQ(ResolveImagePath(""), "");
+    for (const std::string& none :
+         {folder.file("Models/other.pcx"), folder.file("Models"), std::string()})
+        EXPECT_EQ(ResolveImagePath(none), "") << none;
 }
 
 } // namespace

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <iterator>
+#include <tuple>
 
 namespace {
 
@@ -83,8 +84,7 @@ TEST(PcxReader, Reads256ColourFilesAsWideAsTheirRows) {
             Picture(EncodePcx8(c.width, c.height, indices, TestPalette(), options));
 
         const int rowSize = c.bytesPerLine > 0 ? c.bytesPerLine : c.width + c.width % 2;
-        ASSERT_EQ(picture.width, rowSize);
-        ASSERT_EQ(picture.height, c.height);
+        ASSERT_EQ(std::pair(picture.width, picture.height), std::pair(rowSize, c.height));
         EXPECT_EQ(Columns(picture, c.width), PaletteColours(indices, TestPalette()));
         for (int x = c.width; x < rowSize; ++x) {
             const Bytes padding(picture.rgb.begin() + x * 3, picture.rgb.begin() + x * 3 + 3);
@@ -103,11 +103,9 @@ TEST(PcxReader, ReadsTrueColourFilesWhereverTheRunsEnd) {
                 options.runs = runs;
                 options.bytesPerLine = bytesPerLine;
                 options.padding = 0xEE;
-                const Bytes file = EncodePcx24(width, height, rgb, options);
-                const PcxImage picture = Picture(file);
-                EXPECT_EQ(picture.width, width);
-                EXPECT_EQ(picture.height, height);
-                EXPECT_EQ(picture.rgb, rgb);
+                const PcxImage picture = Picture(EncodePcx24(width, height, rgb, options));
+                EXPECT_EQ(std::tie(picture.width, picture.height, picture.rgb),
+                          std::tie(width, height, rgb));
             }
         }
     }
@@ -152,8 +150,7 @@ TEST(PcxReader, TakesThePaletteFromTheEndOfTheFile) {
     const Bytes cut = Joined({Bytes(file.begin(), file.begin() + kPcxHeaderBytes + 3),
                               Bytes(file.end() - kPcxPaletteBlockBytes, file.end())});
     const PcxImage early = Picture(cut);
-    EXPECT_EQ(early.width, 6);
-    EXPECT_EQ(early.height, 4);
+    EXPECT_EQ(std::pair(early.width, early.height), std::pair(6, 4));
 }
 
 TEST(PcxReader, RefusesFilesItCannotShowWithTheirMessages) {

@@ -1,12 +1,12 @@
 // Saves killed part-way: the target holds the whole old or the whole new contents, and nothing
 // shows beside it in the folder.
 #include "filereplace.h"
+#include "modelfiles.h"
 #include "tempdir.h"
 
 #include <gtest/gtest.h>
 
 #include <csignal>
-#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <random>
@@ -22,13 +22,6 @@ constexpr unsigned kLongestSpin = 300000;
 std::string Contents(const std::string& path) {
     std::ifstream in(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(in), {}};
-}
-
-std::vector<std::string> EntriesOf(const std::filesystem::path& folder) {
-    std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(folder))
-        names.push_back(entry.path().filename().string());
-    return names;
 }
 
 // Starts a process that saves `first` and `second` over `path` in turn until it is killed; returns
@@ -77,7 +70,7 @@ TEST(FileReplace, AKilledSaveLeavesTheOldOrTheNewFileAndNothingBesideIt) {
 
         const std::string now = Contents(target);
         ASSERT_TRUE(now == older || now == newer) << "round " << round << ": " << now.size();
-        for (const std::string& name : EntriesOf(dir.path()))
+        for (const std::string& name : FilesIn(dir.path()))
             ASSERT_TRUE(name == "PLANEF.MOX" || name.rfind(".PLANEF.MOX.saving-", 0) == 0)
                 << "round " << round << " left " << name;
     }
@@ -85,6 +78,6 @@ TEST(FileReplace, AKilledSaveLeavesTheOldOrTheNewFileAndNothingBesideIt) {
     // What a killed save left under a hidden name, the next save removes.
     std::ofstream(dir.file(".PLANEF.MOX.saving-Ab12Cd")) << "left over";
     ASSERT_TRUE(ReplaceFileContents(target, newer, error)) << error;
-    EXPECT_EQ(EntriesOf(dir.path()), std::vector<std::string>{"PLANEF.MOX"});
+    EXPECT_EQ(FilesIn(dir.path()), std::vector<std::string>{"PLANEF.MOX"});
     EXPECT_EQ(Contents(target), newer);
 }

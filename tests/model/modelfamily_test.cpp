@@ -18,14 +18,6 @@ const Names kFRows{"MAIN MODEL (F)", "A.MOX", "B.MOX", "C.MOX", "E.MOX", "G.MOX"
 const Names kHRows{"MAIN MODEL (H)", "S.MOX", "L.MOX", "D.MOX"};
 constexpr const char* kQuestion = "question question: Load this model AND connected models?";
 
-// Which file each slot holds, by the file's Radius, "." where no file was read.
-std::string Slots(const model& m) {
-    std::string slots;
-    for (int16_t slot = 0; slot < static_cast<int16_t>(m.Files.size()); ++slot)
-        slots += m.CheckMOX(slot) ? static_cast<char>('0' + m.Files[slot].Radius) : '.';
-    return slots;
-}
-
 bool Called(const RecordingHost& host, const std::string& call) {
     return std::count(host.calls.begin(), host.calls.end(), call) > 0;
 }

@@ -20,6 +20,13 @@ int ReadRadius(const std::string& path) {
     return bytes.size() < 2 ? -1 : static_cast<int16_t>(bytes[0] | (bytes[1] << 8));
 }
 
+std::string Slots(const model& m) {
+    std::string slots;
+    for (int16_t slot = 0; slot < static_cast<int16_t>(m.Files.size()); ++slot)
+        slots += m.CheckMOX(slot) ? static_cast<char>('0' + m.Files[slot].Radius) : '.';
+    return slots;
+}
+
 std::vector<std::string> FilesIn(const std::filesystem::path& folder) {
     std::vector<std::string> names;
     for (const auto& entry : std::filesystem::directory_iterator(folder))

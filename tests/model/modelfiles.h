@@ -3,6 +3,7 @@
 #pragma once
 
 #include "filerecord.h"
+#include "model.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -14,6 +15,9 @@ void WriteSmallModel(const std::string& path, int16_t radius);
 
 // The Radius stored in the model file at `path`, or -1 when there is no such file.
 int ReadRadius(const std::string& path);
+
+// Which file each slot of `m` holds, by the file's Radius (0 to 9), "." where no file was read.
+std::string Slots(const model& m);
 
 // The names of the entries of `folder`, sorted.
 std::vector<std::string> FilesIn(const std::filesystem::path& folder);

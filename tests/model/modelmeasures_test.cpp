@@ -23,14 +23,6 @@ model FamilyModel() {
     return m;
 }
 
-Part Pivot(int16_t y, int16_t z, int16_t x) {
-    Part part;
-    part.Y = y;
-    part.Z = z;
-    part.X = x;
-    return part;
-}
-
 // GetSpan, GetLength and GetHeight of `m` for the results 0, 1 and 2: the smallest, the largest
 // and their difference.
 std::string Measures(const model& m, bool all) {
@@ -54,8 +46,8 @@ TEST(ModelMeasures, RangeAlwaysHoldsTheOrigin) {
 TEST(ModelMeasures, PartsAndHardpointsPlaceTheNodes) {
     model m = FamilyModel();
     // A node with B 2 belongs to Parts(1).
-    m.Files[0] =
-        FileWithNodes({{0, 0, 5, 2}, {0, 0, -3, 1}}, {Pivot(0, 0, 100), Pivot(-40, 7, 200)});
+    m.Files[0] = FileWithNodes({{0, 0, 5, 2}, {0, 0, -3, 1}},
+                               {Part{0, 0, 0, 0, 100}, Part{0, 0, -40, 7, 200}});
     m.Files[0].HP[3] = Node{1000, -500, 300, 0};
     m.Files[3] = FileWithNodes({{1, 2, 3, 0}});
     m.Files[3].HP[3] = Node{9, 9, 9, 0}; // a connected file's own hardpoints do not count
@@ -82,16 +74,13 @@ TEST(ModelMeasures, NodesOfNoPartAreLeftOutAndSumsStopAtTheLimits) {
     model m = FamilyModel();
     // B 2 with one part record, and a negative B: neither names a part.
     m.Files[0] =
-        FileWithNodes({{0, 0, 9000, 2}, {0, 0, -9000, -1}, {0, 0, 10, 0}}, {Pivot(0, 0, 100)});
-    EXPECT_EQ(m.GetLength(true, 0), 0);
-    EXPECT_EQ(m.GetLength(true, 1), 10);
+        FileWithNodes({{0, 0, 9000, 2}, {0, 0, -9000, -1}, {0, 0, 10, 0}}, {Part{0, 0, 0, 0, 100}});
+    EXPECT_EQ(Measures(m, true), "0,0,0 0,10,0 0,10,0 ");
 
     // A node beyond the 16-bit range once its part and hardpoint are added counts at the limit,
     // and so does a difference beyond it.
-    m.Files[0] = FileWithNodes({{0, 0, 30000, 1}, {0, 0, -30000, 0}}, {Pivot(0, 0, 30000)});
+    m.Files[0] = FileWithNodes({{0, 0, 30000, 1}, {0, 0, -30000, 0}}, {Part{0, 0, 0, 0, 30000}});
     m.Files[0].HP[1] = Node{0, 0, -20000, 0};
     m.Files[1] = FileWithNodes({{0, 0, -20000, 0}});
-    EXPECT_EQ(m.GetLength(true, 1), 32767);
-    EXPECT_EQ(m.GetLength(true, 0), -32768);
-    EXPECT_EQ(m.GetLength(true, 2), 32767);
+    EXPECT_EQ(Measures(m, true), "0,-32768,0 0,32767,0 0,32767,0 ");
 }

@@ -57,22 +57,18 @@ TEST(MoxReader, ReadsTheTablesAndEveryKindAndNumbersTheEntries) {
     const FileRecord record = Read(builder, 3);
 
     EXPECT_TRUE(host.messages.empty());
-    EXPECT_TRUE(record.Loaded);
-    EXPECT_EQ(record.Index, 3);
-    EXPECT_EQ(record.Filename, "/models/PLANEF.MOX");
-    EXPECT_EQ(Program().ProjectData.Type, 1);
-    EXPECT_EQ(record.Radius, -1234);
-    EXPECT_EQ(TextureFileName(record.Texture), "PLANE.PCX");
+    EXPECT_EQ(record.Filename + " " + TextureFileName(record.Texture),
+              "/models/PLANEF.MOX PLANE.PCX");
     const Part& part = record.Parts[1];
-    EXPECT_EQ(Numbers({record.NumParts, part.Code, part.Num, part.Y, part.Z, part.X}),
-              "3,2,7,-3,-4,-5,");
     const NRMRecord& plane = record.NRM[1];
-    EXPECT_EQ(Numbers({plane.Y, plane.Z, plane.X, plane.D, plane.F}), "16384,1,2,-70000,12,");
-    EXPECT_EQ(record.Root, (ChildPair{0, 255}));
-    EXPECT_EQ(record.PART[0], (ChildPair{255, 7}));
-    EXPECT_EQ(record.PART[1], (ChildPair{1, 0}));
     const Node& node = record.Nodes[7];
-    EXPECT_EQ(Numbers({node.Y, node.Z, node.X, node.B}), "7,14,21,1,");
+    // Loaded, Index, the project's Type, Radius; a part; a plane; the tree; a node.
+    EXPECT_EQ(Numbers({record.Loaded, record.Index, Program().ProjectData.Type, record.Radius,
+                       record.NumParts, part.Code, part.Num, part.Y, part.Z, part.X}) +
+                  Numbers({plane.Y, plane.Z, plane.X, plane.D, plane.F, record.Root[0],
+                           record.Root[1], record.PART[0][0], record.PART[0][1]}) +
+                  Numbers({record.PART[1][0], record.PART[1][1], node.Y, node.Z, node.X, node.B}),
+              "1,3,1,-1234,3,2,7,-3,-4,-5,16384,1,2,-70000,12,0,255,255,7,1,0,7,14,21,1,");
 
     EXPECT_EQ(Entries(record), (std::vector<std::string>{
                                    "0 0,0, t255 c0 n x y a0,0,",
@@ -150,10 +146,8 @@ TEST(MoxReader, ReadsBeyondTheEndGiveZeros) {
     std::vector<uint8_t> bytes = builder.Build();
     bytes.resize(22 + 12 + 2 + 2 + 8 + 2); // cut inside the second node
     const FileRecord record = ReadMoxBytes(bytes, "CUT.MOX", 0);
-    EXPECT_EQ(record.Nodes[1].Y, 1);
-    EXPECT_EQ(record.Nodes[3].X, 0);
-    EXPECT_EQ(record.Offsets[0], 0);
-    EXPECT_TRUE(record.Loaded);
+    EXPECT_EQ(Numbers({record.Nodes[1].Y, record.Nodes[3].X, record.Offsets[0], record.Loaded}),
+              "1,0,0,1,");
 
     RecordingHost host;
     // An offset outside the file, negative or past its end, reads only zeros.
@@ -181,10 +175,9 @@ TEST(MoxReader, AHostileFileHoldsABoundedNumberOfEntries) {
     RecordingHost host;
     const FileRecord record = ReadMoxBytes(bytes, "BIG.MOX", 0);
 
-    EXPECT_EQ(record.Elements[63].Count, 255);
-    EXPECT_EQ(record.Elements[64].Count, 64 * 256 - 64 * 255);
-    EXPECT_EQ(record.Elements[65].Count, 1);
-    EXPECT_EQ(record.Elements[399].Count, 1);
+    EXPECT_EQ(Numbers({record.Elements[63].Count, record.Elements[64].Count,
+                       record.Elements[65].Count, record.Elements[399].Count}),
+              Numbers({255, 64 * 256 - 64 * 255, 1, 1}));
     ASSERT_EQ(host.messages.size(), 400u - 64u);
     EXPECT_EQ(host.messages.front(), "Error in MOX file.  Around element number: 64");
 
@@ -205,9 +198,9 @@ TEST(MoxReader, AMissingFileGivesABlankRecordSilently) {
     RecordingHost host;
     for (const std::string& name : {std::string(), dir.file("NONE.MOX"), dir.path().string()}) {
         const FileRecord record = READ_MOX(name, 2);
-        EXPECT_FALSE(record.Loaded);
-        EXPECT_EQ(record.NumNodes, 0);
-        EXPECT_TRUE(record.Elements.empty());
+        EXPECT_EQ(
+            Numbers({record.Loaded, record.NumNodes, static_cast<int>(record.Elements.size())}),
+            "0,0,0,");
     }
     EXPECT_TRUE(host.messages.empty());
 }

@@ -10,9 +10,13 @@
 
 namespace {
 
-void PutInt16(std::vector<uint8_t>& out, int value) {
-    out.push_back(static_cast<uint8_t>(value & 0xFF));
-    out.push_back(static_cast<uint8_t>((value >> 8) & 0xFF));
+constexpr uint8_t kGapByte = 0xEE;
+
+void PutInt16(std::vector<uint8_t>& out, std::initializer_list<int> values) {
+    for (const int value : values) {
+        out.push_back(static_cast<uint8_t>(value & 0xFF));
+        out.push_back(static_cast<uint8_t>((value >> 8) & 0xFF));
+    }
 }
 
 void PutInt32(std::vector<uint8_t>& out, int32_t value) {
@@ -22,18 +26,6 @@ void PutInt32(std::vector<uint8_t>& out, int32_t value) {
 }
 
 } // namespace
-
-StreamBytes& StreamBytes::Prefix(uint8_t cod, uint8_t flag) {
-    return Raw({cod, flag});
-}
-
-StreamBytes& StreamBytes::Line(uint8_t node0, uint8_t node1, uint8_t colour) {
-    return Raw({1, node0, node1, colour});
-}
-
-StreamBytes& StreamBytes::Hardpoint(uint8_t code, uint8_t node) {
-    return Raw({2, code, node});
-}
 
 StreamBytes& StreamBytes::ColouredPoly(const std::vector<uint8_t>& nodes, uint8_t colour) {
     Raw({3, static_cast<uint8_t>(nodes.size())});
@@ -61,10 +53,6 @@ StreamBytes& StreamBytes::Raw(const std::vector<uint8_t>& more) {
     return *this;
 }
 
-StreamBytes& StreamBytes::End() {
-    return Raw({kTypeNull});
-}
-
 void MoxBuilder::SetTexture(const std::string& name) {
     texture.fill(0);
     std::copy_n(name.begin(), std::min(name.size(), texture.size()), texture.begin());
@@ -73,39 +61,28 @@ void MoxBuilder::SetTexture(const std::string& name) {
 std::vector<uint8_t> MoxBuilder::Build() const {
     const int elements = numElements.value_or(static_cast<int16_t>(streams.size()));
     std::vector<uint8_t> out;
-    PutInt16(out, radius);
+    PutInt16(out, {radius});
     out.insert(out.end(), texture.begin(), texture.end());
-    PutInt16(out, numParts.value_or(static_cast<int16_t>(parts.size() + 1)));
-    PutInt16(out, numNodes.value_or(static_cast<int16_t>(nodes.size())));
-    PutInt16(out, elements);
+    PutInt16(out, {numParts.value_or(static_cast<int16_t>(parts.size() + 1)),
+                   static_cast<int16_t>(nodes.size()), elements});
     for (const Part& part : parts) {
-        out.push_back(part.Code);
-        out.push_back(part.Num);
-        PutInt16(out, part.Y);
-        PutInt16(out, part.Z);
-        PutInt16(out, part.X);
+        out.insert(out.end(), {part.Code, part.Num});
+        PutInt16(out, {part.Y, part.Z, part.X});
     }
     for (int i = 0; i < elements; ++i) {
         const NRMRecord plane = i < static_cast<int>(planes.size()) ? planes[i] : NRMRecord{};
-        PutInt16(out, plane.Y);
-        PutInt16(out, plane.Z);
-        PutInt16(out, plane.X);
+        PutInt16(out, {plane.Y, plane.Z, plane.X});
         PutInt32(out, plane.D);
-        PutInt16(out, plane.F);
+        PutInt16(out, {plane.F});
     }
-    out.push_back(root[0]);
-    out.push_back(root[1]);
+    out.insert(out.end(), root.begin(), root.end());
     for (int i = 0; i < elements; ++i) {
         const ChildPair pair =
             i < static_cast<int>(children.size()) ? children[i] : ChildPair{kNoElement, kNoElement};
-        out.push_back(pair[0]);
-        out.push_back(pair[1]);
+        out.insert(out.end(), pair.begin(), pair.end());
     }
     for (const Node& node : nodes) {
-        PutInt16(out, node.Y);
-        PutInt16(out, node.Z);
-        PutInt16(out, node.X);
-        PutInt16(out, node.B);
+        PutInt16(out, {node.Y, node.Z, node.X, node.B});
     }
 
     const size_t table = out.size();
@@ -117,7 +94,7 @@ std::vector<uint8_t> MoxBuilder::Build() const {
     }
     std::map<int, size_t> placed;
     for (const int element : order) {
-        out.insert(out.end(), gapBefore, gapByte);
+        out.insert(out.end(), gapBefore, kGapByte);
         placed[element] = out.size();
         const auto& stream = streams.at(static_cast<size_t>(element));
         out.insert(out.end(), stream.begin(), stream.end());

@@ -17,9 +17,11 @@ class StreamBytes {
 public:
     using Corner = std::array<uint8_t, 3>; // node, x map, y map
 
-    StreamBytes& Prefix(uint8_t cod, uint8_t flag);
-    StreamBytes& Line(uint8_t node0, uint8_t node1, uint8_t colour);
-    StreamBytes& Hardpoint(uint8_t code, uint8_t node);
+    StreamBytes& Prefix(uint8_t cod, uint8_t flag) { return Raw({cod, flag}); }
+    StreamBytes& Line(uint8_t node0, uint8_t node1, uint8_t colour) {
+        return Raw({1, node0, node1, colour});
+    }
+    StreamBytes& Hardpoint(uint8_t code, uint8_t node) { return Raw({2, code, node}); }
     StreamBytes& ColouredPoly(const std::vector<uint8_t>& nodes, uint8_t colour);
     // Corners of node and colour.
     StreamBytes& GouraudPoly(const std::vector<std::array<uint8_t, 2>>& corners);
@@ -28,7 +30,7 @@ public:
                             uint8_t att2);
     StreamBytes& Raw(const std::vector<uint8_t>& bytes);
     // The closing byte FF.
-    StreamBytes& End();
+    StreamBytes& End() { return Raw({kTypeNull}); }
 
     std::vector<uint8_t> bytes;
 };
@@ -46,14 +48,12 @@ public:
 
     // Header counts; by default they follow parts (plus the fixed body), nodes and streams.
     std::optional<int16_t> numParts;
-    std::optional<int16_t> numNodes;
     std::optional<int16_t> numElements;
 
     // Elements in the order their streams are laid out; empty means element order.
     std::vector<int> streamOrder;
-    // Filler bytes put in front of every stream.
+    // Filler bytes (EE) put in front of every stream.
     size_t gapBefore = 0;
-    uint8_t gapByte = 0xEE;
     // Offsets written instead of the true ones, by element.
     std::map<int, int16_t> offsetOverrides;
     // Bytes behind the last stream.

@@ -111,7 +111,8 @@ MoxBuilder RandomMox(std::mt19937& random, const RandomMoxOptions& options) {
         builder.children.push_back({dice.Byte(), dice.Byte()});
         builder.streams.push_back(RandomStream(dice, options));
     }
-    if (options.scrambledLayout && dice.Chance(50)) {
+    // Half the files have their streams out of element order, with gaps and trailing bytes.
+    if (dice.Chance(50)) {
         builder.streamOrder.resize(static_cast<size_t>(elements));
         for (int i = 0; i < elements; ++i)
             builder.streamOrder[static_cast<size_t>(i)] = i;

@@ -9,8 +9,6 @@
 struct RandomMoxOptions {
     // Entries of a display prefix and the NULL kind ("COD Flag FF"), which a save drops.
     bool prefixedNulls = false;
-    // Streams out of element order, with gaps between them and bytes behind the last.
-    bool scrambledLayout = true;
     // Now and then an element with more than 100 piggybacks.
     bool longLists = true;
 };

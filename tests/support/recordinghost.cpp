@@ -20,8 +20,6 @@ const char* OnOff(bool on) {
     return on ? "on" : "off";
 }
 
-constexpr const char* kEventsCall = "events";
-
 } // namespace
 
 RecordingHost::RecordingHost() {
@@ -52,28 +50,20 @@ void RecordingHost::SetFamilyList(const std::vector<std::string>& rows) {
     std::string joined;
     for (const std::string& row : rows)
         joined += (joined.empty() ? "" : "|") + row;
-    calls.push_back("family list: " + joined);
-    if (windowSide != nullptr)
-        windowSide->SetFamilyList(rows);
+    Record("family list: " + joined, &ModelHost::SetFamilyList, rows);
 }
 
 void RecordingHost::SetFamilyListRow(int row) {
-    calls.push_back("family row: " + std::to_string(row));
-    if (windowSide != nullptr)
-        windowSide->SetFamilyListRow(row);
+    Record("family row: " + std::to_string(row), &ModelHost::SetFamilyListRow, row);
 }
 
 void RecordingHost::SetShowThisMoxOnly(bool on) {
-    calls.push_back(std::string("this mox only: ") + OnOff(on));
-    if (windowSide != nullptr)
-        windowSide->SetShowThisMoxOnly(on);
+    Record(std::string("this mox only: ") + OnOff(on), &ModelHost::SetShowThisMoxOnly, on);
 }
 
 void RecordingHost::SetWindowTitle(const std::string& text) {
     title = text;
-    calls.push_back("title: " + text);
-    if (windowSide != nullptr)
-        windowSide->SetWindowTitle(text);
+    Record("title: " + text, &ModelHost::SetWindowTitle, text);
 }
 
 // Not recorded: every change makes one, and what it shows is the journal's own state.
@@ -82,23 +72,13 @@ void RecordingHost::JournalChanged() {
         windowSide->JournalChanged();
 }
 
-void RecordingHost::ShowFirstEditTab() {
-    calls.emplace_back("first tab");
-    if (windowSide != nullptr)
-        windowSide->ShowFirstEditTab();
-}
-
 void RecordingHost::SetModifyAxis(int32_t axis) {
-    calls.push_back("modify axis: " + std::to_string(axis));
-    if (windowSide != nullptr)
-        windowSide->SetModifyAxis(axis);
+    Record("modify axis: " + std::to_string(axis), &ModelHost::SetModifyAxis, axis);
 }
 
 void RecordingHost::SetSpinValue(const std::string& name, int value) {
     spins[name] = value;
-    calls.push_back("spin " + name + ": " + std::to_string(value));
-    if (windowSide != nullptr)
-        windowSide->SetSpinValue(name, value);
+    Record("spin " + name + ": " + std::to_string(value), &ModelHost::SetSpinValue, name, value);
 }
 
 int RecordingHost::SpinValue(const std::string& name) {
@@ -110,33 +90,16 @@ int RecordingHost::SpinValue(const std::string& name) {
 
 void RecordingHost::SetSpinMaximum(const std::string& name, int maximum) {
     spinMaxima[name] = maximum;
-    calls.push_back("spin maximum " + name + ": " + std::to_string(maximum));
-    if (windowSide != nullptr)
-        windowSide->SetSpinMaximum(name, maximum);
+    Record("spin maximum " + name + ": " + std::to_string(maximum), &ModelHost::SetSpinMaximum,
+           name, maximum);
 }
 
 void RecordingHost::ShowPickedPiggyback(int16_t number) {
-    calls.push_back("picked piggyback: " + std::to_string(number));
-    if (windowSide != nullptr)
-        windowSide->ShowPickedPiggyback(number);
-}
-
-void RecordingHost::ShowPerspectiveView() {
-    calls.emplace_back("perspective view");
-    if (windowSide != nullptr)
-        windowSide->ShowPerspectiveView();
+    Record("picked piggyback: " + std::to_string(number), &ModelHost::ShowPickedPiggyback, number);
 }
 
 void RecordingHost::SetToolbarImage(const std::string& button, const std::string& image) {
-    calls.push_back("toolbar " + button + ": " + image);
-    if (windowSide != nullptr)
-        windowSide->SetToolbarImage(button, image);
-}
-
-void RecordingHost::UpdateRecentMenus() {
-    calls.emplace_back("recent menus");
-    if (windowSide != nullptr)
-        windowSide->UpdateRecentMenus();
+    Record("toolbar " + button + ": " + image, &ModelHost::SetToolbarImage, button, image);
 }
 
 std::string RecordingHost::HelpCaption() {
@@ -148,9 +111,7 @@ std::string RecordingHost::HelpCaption() {
 
 void RecordingHost::SetHelpCaption(const std::string& caption) {
     helpCaption = caption;
-    calls.push_back("help caption: " + caption);
-    if (windowSide != nullptr)
-        windowSide->SetHelpCaption(caption);
+    Record("help caption: " + caption, &ModelHost::SetHelpCaption, caption);
 }
 
 bool RecordingHost::HelpBold() {
@@ -162,9 +123,7 @@ bool RecordingHost::HelpBold() {
 
 void RecordingHost::SetHelpBold(bool bold) {
     helpBold = bold;
-    calls.push_back(std::string("help bold: ") + OnOff(bold));
-    if (windowSide != nullptr)
-        windowSide->SetHelpBold(bold);
+    Record(std::string("help bold: ") + OnOff(bold), &ModelHost::SetHelpBold, bold);
 }
 
 // A fill is the window's own work and is not a call the tests compare; it only goes on to the
@@ -174,16 +133,10 @@ void RecordingHost::FillPanel(int32_t tab) {
         windowSide->FillPanel(tab);
 }
 
-void RecordingHost::LetEventsRun() {
-    calls.emplace_back(kEventsCall);
-    if (windowSide != nullptr)
-        windowSide->LetEventsRun();
-}
-
 std::vector<std::string> RecordingHost::CallsWithoutEvents(std::size_t mark) const {
     std::vector<std::string> result;
     for (std::size_t i = mark; i < calls.size(); ++i) {
-        if (calls[i] != kEventsCall)
+        if (calls[i] != kEvents)
             result.push_back(calls[i]);
     }
     return result;

@@ -6,6 +6,7 @@
 #include <deque>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 class RecordingHost : public ModelHost {
@@ -21,21 +22,23 @@ public:
     void SetFamilyListRow(int row) override;
     void SetShowThisMoxOnly(bool on) override;
     void SetWindowTitle(const std::string& title) override;
-    void ShowFirstEditTab() override;
+    void ShowFirstEditTab() override { Record("first tab", &ModelHost::ShowFirstEditTab); }
     void SetModifyAxis(int32_t axis) override;
     void SetSpinValue(const std::string& name, int value) override;
     int SpinValue(const std::string& name) override;
     void SetSpinMaximum(const std::string& name, int maximum) override;
     void ShowPickedPiggyback(int16_t number) override;
-    void ShowPerspectiveView() override;
+    void ShowPerspectiveView() override {
+        Record("perspective view", &ModelHost::ShowPerspectiveView);
+    }
     void SetToolbarImage(const std::string& button, const std::string& image) override;
-    void UpdateRecentMenus() override;
+    void UpdateRecentMenus() override { Record("recent menus", &ModelHost::UpdateRecentMenus); }
     std::string HelpCaption() override;
     void SetHelpCaption(const std::string& caption) override;
     bool HelpBold() override;
     void SetHelpBold(bool bold) override;
     void FillPanel(int32_t tab) override;
-    void LetEventsRun() override;
+    void LetEventsRun() override { Record(kEvents, &ModelHost::LetEventsRun); }
     void JournalChanged() override;
 
     // The calls since `mark` that are not one of the pending-event runs, which a project load
@@ -63,4 +66,16 @@ public:
     std::map<std::string, int> spins;
     std::map<std::string, int> spinMaxima;
     bool helpBold = false;
+
+private:
+    // The call a project load makes after every line to let pending events run.
+    static constexpr const char* kEvents = "events";
+
+    // Records `call` and passes it on to the window's side, if there is one.
+    template <typename... Params, typename... Args>
+    void Record(std::string call, void (ModelHost::*pass)(Params...), const Args&... args) {
+        calls.push_back(std::move(call));
+        if (windowSide != nullptr)
+            (windowSide->*pass)(args...);
+    }
 };
