@@ -91,7 +91,9 @@ TEST(RandomSequence, EveryStepOnTheSampleSavesWhatItHolds) {
         const size_t shown = host.messages.size();
         const FileRecord back = ReadMoxBytes(saved, "TESTF.MOX", 0);
         ASSERT_EQ(host.messages.size(), shown);
-        ASSERT_EQ(SavedBytes(back), saved) << "the header's counts too";
+        ASSERT_EQ(SavedBytes(back), saved);
+        ASSERT_EQ(std::pair(back.NumNodes, back.NumElements),
+                  std::pair(file.NumNodes, file.NumElements));
         ASSERT_EQ(BrokenReference(back), "");
     }
 }
