@@ -130,8 +130,9 @@ TEST_F(ViewInputTest, ClickSelectsByTabAndRanksByDepth) {
             EXPECT_EQ(spins, (std::array<int, 2>{kUntouched * 101, kUntouched}));
         else
             EXPECT_EQ(spins[row.tab == kNodesTab], row.spins);
-        if (row.tab == kElementsTab && row.spins != kUntouched)
+        if (row.tab == kElementsTab && row.spins != kUntouched) {
             EXPECT_EQ(host.spinMaxima["upd_3_pb"], 255) << "room for every piggyback number";
+        }
     }
 }
 
