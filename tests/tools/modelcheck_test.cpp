@@ -20,9 +20,10 @@ namespace {
 constexpr int16_t kOne = 16384;
 
 // A square of side 10 in the plane z = 0, its stored corners clockwise seen from +Z, in element 0
-// with the plane (0, 0, 1), D 0.
+// with the plane (0, 0, 1), D 0, its texture PLANE.TPC.
 MoxBuilder Square() {
     MoxBuilder model;
+    model.SetTexture("PLANE.TPC");
     model.nodes = {Node{0, 0, 0, 0}, Node{10, 0, 0, 0}, Node{10, 0, 10, 0}, Node{0, 0, 10, 0}};
     model.planes = {NRMRecord{0, kOne, 0, 0, 0}};
     model.root = {0, kNoElement};
@@ -176,15 +177,11 @@ TEST(ModelCheck, TextureAndFamilyRulesAndTheExitStatus) {
         SCOPED_TRACE(std::string(rule) + (mainHardpoint ? " main" : " connected"));
         TempDir dir;
         MoxBuilder main = Square();
-        main.SetTexture("PLANE.TPC");
         if (mainHardpoint)
             Append(main, [](StreamBytes& s) { s.Hardpoint(25, 0); });
         WriteTestFile(dir.file("PLANEF.MOX"), main.Build());
-        if (connectedFile) {
-            MoxBuilder connected = Square();
-            connected.SetTexture("PLANE.TPC");
-            WriteTestFile(dir.file("PLANEA.MOX"), connected.Build());
-        }
+        if (connectedFile)
+            WriteTestFile(dir.file("PLANEA.MOX"), Square().Build());
         if (texture)
             WritePcx8(dir.file("PLANE.PCX"), 4, 4, TestIndices(4, 4, 1), TestPalette());
         const ToolRun run = RunTool({"check", "--family", "--json", dir.file("PLANEF.MOX")});
@@ -219,7 +216,7 @@ TEST(ModelCheck, FixPlanesRestoresASpoiledPlane) {
         WriteTestFile(dir.file("S.MOX"), model.Build());
         const ToolRun run =
             RunTool({"check", "--json", dir.file("S.MOX"), "--fix-planes", dir.file("F.MOX")});
-        // The square names no texture file: that finding stays.
+        // No PLANE.PCX lies beside the square: that finding stays.
         EXPECT_EQ(JsonRules(run.out), (std::set<std::string>{rule, "texture", "fix-planes"}));
         EXPECT_EQ(Json::parse(run.out).back().at("severity"), "fixed") << run.out;
         EXPECT_EQ(ReadFileBytes(dir.file("F.MOX")),
