@@ -116,9 +116,7 @@ TEST(ModelCheck, EachRuleFiresOnItsOwnRecordAlone) {
         // of the one before.
         {"stream-offset", [](MoxBuilder&) {},
          [](FileRecord& r) {
-             ElementList lines;
-             lines.Items.assign(100, LineEntry({0, 1, 0}));
-             lines.Count = 99;
+             const ElementList lines{std::vector<Piggyback>(100, LineEntry({0, 1, 0})), 99};
              for (int e = 1; e <= 90; ++e) {
                  r.PART[e - 1][0] = uint8_t(e);
                  r.NRM.insert(r.NRM.begin() + e, r.NRM[0]);

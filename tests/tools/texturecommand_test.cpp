@@ -12,6 +12,7 @@
 
 #include <filesystem>
 #include <sstream>
+#include <tuple>
 
 namespace {
 
@@ -44,9 +45,8 @@ TEST(TextureCommand, WritesThePictureTheEditorDecodes) {
 
     ASSERT_EQ(RunTool({"texture", folder.file("in.pcx"), folder.file("out.ppm")}).status, 0);
     const Ppm ppm = ReadPpm(folder.file("out.ppm"));
-    EXPECT_EQ(ppm.width, 6);
-    EXPECT_EQ(ppm.height, 2);
-    EXPECT_EQ(ppm.rgb, DecodePcx(file, "in.pcx").picture->rgb);
+    EXPECT_EQ(std::make_tuple(ppm.width, ppm.height, ppm.rgb),
+              std::make_tuple(6, 2, DecodePcx(file, "in.pcx").picture->rgb));
 
     ASSERT_EQ(RunTool({"texture", folder.file("in.pcx"), folder.file("out.PNG")}).status, 0);
     // The PNG signature and a header of width 6 and height 2.
