@@ -8,26 +8,19 @@
 
 namespace {
 
-// Loading and saving the file on disk; the save includes the temporary file, its flush to disk
+// Loading or saving the file on disk; the save includes the temporary file, its flush to disk
 // and the rename over the old file.
-void BM_READ_MOX(benchmark::State& state) {
+void MoxFile(benchmark::State& state, bool save) {
     TempDir dir;
+    const std::string path = dir.file("PLANEF.MOX");
     const std::vector<uint8_t> bytes = TubeFile(true).Build();
-    WriteTestFile(dir.file("PLANEF.MOX"), bytes);
+    WriteTestFile(path, bytes);
+    const FileRecord record = READ_MOX(path, 0);
     for (auto _ : state)
-        benchmark::DoNotOptimize(READ_MOX(dir.file("PLANEF.MOX"), 0));
+        benchmark::DoNotOptimize(save ? SAVE_MOX(record, path) : READ_MOX(path, 0).Loaded);
     state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * bytes.size()));
 }
-BENCHMARK(BM_READ_MOX);
-
-void BM_SAVE_MOX(benchmark::State& state) {
-    TempDir dir;
-    const std::vector<uint8_t> bytes = TubeFile(true).Build();
-    const FileRecord record = ReadMoxBytes(bytes, "PLANEF.MOX", 0);
-    for (auto _ : state)
-        benchmark::DoNotOptimize(SAVE_MOX(record, dir.file("PLANEF.MOX")));
-    state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * bytes.size()));
-}
-BENCHMARK(BM_SAVE_MOX)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(MoxFile, READ_MOX, false)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(MoxFile, SAVE_MOX, true)->Unit(benchmark::kMicrosecond);
 
 } // namespace

@@ -10,7 +10,6 @@
 #include "gltextureloader.h"
 #include "glview.h"
 #include "mainwindow.h"
-#include "moxbuilder.h"
 #include "oglgraphics.h"
 #include "pcxwriter.h"
 #include "picking.h"
@@ -86,17 +85,15 @@ void Open(const std::string& name) {
 
 // Runs `step` once per iteration and reports its median time.
 template <typename Step> double MedianMilliseconds(benchmark::State& state, Step step) {
-    std::vector<double> milliseconds;
+    using Milliseconds = std::chrono::duration<double, std::milli>;
+    std::vector<double> times;
     for (auto _ : state) {
         const auto start = std::chrono::steady_clock::now();
         step();
-        milliseconds.push_back(
-            std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
-                .count());
+        times.push_back(Milliseconds(std::chrono::steady_clock::now() - start).count());
     }
-    std::nth_element(milliseconds.begin(), milliseconds.begin() + milliseconds.size() / 2,
-                     milliseconds.end());
-    const double median = milliseconds.empty() ? 0 : milliseconds[milliseconds.size() / 2];
+    std::sort(times.begin(), times.end());
+    const double median = times.empty() ? 0 : times[times.size() / 2];
     state.counters["median_ms"] = median;
     return median;
 }
@@ -207,14 +204,11 @@ int main(int argc, char** argv) {
     SetTextureLoader(&running.textures);
     running.window = StartUp("", &running.windowHost);
     running.host.windowSide = &running.windowHost;
-    if (!OGL().bRunning) {
-        std::cerr << "bench_frame: no GL context\n";
-        return 1;
-    }
     running.window->resize(kScreenWidth, kScreenHeight);
-    if (!QTest::qWaitFor([&] { return running.window->glView->FrameCount() > 0; },
+    if (!OGL().bRunning ||
+        !QTest::qWaitFor([&] { return running.window->glView->FrameCount() > 0; },
                          kFrameWaitMilliseconds)) {
-        std::cerr << "bench_frame: the view paints no frames\n";
+        std::cerr << "bench_frame: no GL context, or the view paints no frames\n";
         return 1;
     }
 

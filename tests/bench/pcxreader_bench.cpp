@@ -17,15 +17,11 @@ void Decode(benchmark::State& state, const std::vector<uint8_t>& file) {
     state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) * kSide * kSide * 3);
 }
 
-void BM_Decode256Colours(benchmark::State& state) {
-    Decode(state, EncodePcx8(kSide, kSide, TestIndices(kSide, kSide, 1), TestPalette()));
-}
-BENCHMARK(BM_Decode256Colours)->Unit(benchmark::kMillisecond);
-
-void BM_DecodeTrueColour(benchmark::State& state) {
-    Decode(state, EncodePcx24(kSide, kSide, TestRgb(kSide, kSide, 1)));
-}
-BENCHMARK(BM_DecodeTrueColour)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Decode, 256Colours,
+                  EncodePcx8(kSide, kSide, TestIndices(kSide, kSide, 1), TestPalette()))
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Decode, TrueColour, EncodePcx24(kSide, kSide, TestRgb(kSide, kSide, 1)))
+    ->Unit(benchmark::kMillisecond);
 
 } // namespace
 

@@ -25,15 +25,10 @@ MoxBuilder TubeFile(bool withHardpoints) {
     for (int ring = 0; ring < kRings; ++ring)
         for (int around = 0; around < kRingNodes; ++around) {
             const double angle = 2 * kPi * around / kRingNodes;
-            Node node;
-            node.X = static_cast<int16_t>(-100 + ring * 14);
-            node.Y = static_cast<int16_t>(std::lround(30 * std::cos(angle)));
-            node.Z = static_cast<int16_t>(std::lround(30 * std::sin(angle)));
-            file.nodes.push_back(node);
+            file.nodes.push_back(Node{static_cast<int16_t>(std::lround(30 * std::cos(angle))),
+                                      static_cast<int16_t>(std::lround(30 * std::sin(angle))),
+                                      static_cast<int16_t>(-100 + ring * 14), 0});
         }
-    const auto nodeAt = [](int ring, int around) {
-        return static_cast<uint8_t>(ring * kRingNodes + around % kRingNodes);
-    };
     const int quads = (kRings - 1) * kRingNodes;
     for (int element = 0; element < kElements; ++element) {
         StreamBytes stream;
@@ -42,17 +37,17 @@ MoxBuilder TubeFile(bool withHardpoints) {
             const int ring = quad / kRingNodes;
             const int around = quad % kRingNodes;
             const auto corner = [&](int r, int a) {
-                return StreamBytes::Corner{nodeAt(ring + r, around + a),
-                                           static_cast<uint8_t>(around * 16 + a * 15),
-                                           static_cast<uint8_t>(ring * 17 + r * 16)};
+                return StreamBytes::Corner{
+                    static_cast<uint8_t>((ring + r) * kRingNodes + (around + a) % kRingNodes),
+                    static_cast<uint8_t>(around * 16 + a * 15),
+                    static_cast<uint8_t>(ring * 17 + r * 16)};
             };
             stream.MappedPoly(5, {corner(0, 0), corner(1, 0), corner(1, 1), corner(0, 1)}, 0, 0);
         }
         if (withHardpoints && element == 0)
             for (size_t slot = 0; slot < std::size(kHardpointCodes); ++slot) {
-                Node point;
-                point.Y = static_cast<int16_t>((static_cast<int>(slot) - 3) * 45);
-                file.nodes.push_back(point);
+                file.nodes.push_back(
+                    Node{static_cast<int16_t>((static_cast<int>(slot) - 3) * 45), 0, 0, 0});
                 stream.Hardpoint(kHardpointCodes[slot],
                                  static_cast<uint8_t>(file.nodes.size() - 1));
             }

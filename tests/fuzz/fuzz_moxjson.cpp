@@ -22,23 +22,16 @@ bool ListsFitTheReader(const FileRecord& record) {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const Json json = Json::parse(data, data + size, nullptr, false);
-    if (json.is_discarded())
-        return 0;
     FileRecord record;
     std::string error;
-    if (!MoxFromJson(json, record, error))
-        return 0;
     std::vector<uint8_t> bytes;
-    if (!BuildMoxBytes(record, bytes, error))
+    if (json.is_discarded() || !MoxFromJson(json, record, error) ||
+        !BuildMoxBytes(record, bytes, error))
         return 0;
-    const FileRecord read = ReadMoxBytes(bytes, "FUZZ.MOX", 0);
     FileRecord rebuilt;
-    if (!MoxFromJson(MoxToJson(read, {}), rebuilt, error))
-        std::abort();
     std::vector<uint8_t> again;
-    if (!BuildMoxBytes(rebuilt, again, error))
-        std::abort();
-    if (ListsFitTheReader(record) && again != bytes)
+    if (!MoxFromJson(MoxToJson(ReadMoxBytes(bytes, "FUZZ.MOX", 0), {}), rebuilt, error) ||
+        !BuildMoxBytes(rebuilt, again, error) || (ListsFitTheReader(record) && again != bytes))
         std::abort();
     return 0;
 }

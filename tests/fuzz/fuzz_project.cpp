@@ -33,22 +33,6 @@ struct Workspace {
     std::string saved = dir.file("saved.3vw");
 };
 
-// Plain file names find the workspace's files while one input runs; the fuzzer's own relative
-// paths (corpus, findings) need the folder it was started in.
-class InFolder {
-public:
-    explicit InFolder(const std::filesystem::path& folder)
-        : previous_(std::filesystem::current_path()) {
-        std::filesystem::current_path(folder);
-    }
-    ~InFolder() { std::filesystem::current_path(previous_); }
-    InFolder(const InFolder&) = delete;
-    InFolder& operator=(const InFolder&) = delete;
-
-private:
-    std::filesystem::path previous_;
-};
-
 bool LoadedCleanly(const RecordingHost& host) {
     return std::none_of(host.messages.begin(), host.messages.end(), [](const std::string& text) {
         return text == "Error in Project File" || text == "Could not find project file";
@@ -61,6 +45,27 @@ auto Numbers(const ProjectRecord& project) {
                     project.TopLeftY, project.TopLeftZ, project.Type);
 }
 
+// Loads the text, and when it loads without an error saves it and loads it again; false when the
+// second load differs.
+bool SaveAndLoadKeepNumbers(const Workspace& workspace) {
+    ResetProgramState();
+    RecordingHost host;
+    model m;
+    m.LoadProject(workspace.project);
+    for (bool all : {true, false})
+        for (int32_t result = 0; result < 3; ++result)
+            (void)(m.GetSpan(all, result) + m.GetLength(all, result) + m.GetHeight(all, result));
+    if (!LoadedCleanly(host) || m.Files.empty())
+        return true;
+    const ProjectRecord first = Program().ProjectData;
+    Program().ProjectData.ProjectFile = workspace.saved;
+    m.SaveProject();
+    ResetProgramState();
+    model again;
+    again.LoadProject(workspace.saved);
+    return LoadedCleanly(host) && Numbers(Program().ProjectData) == Numbers(first);
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
@@ -71,26 +76,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         return 0;
     std::ofstream(workspace.project, std::ios::binary | std::ios::trunc)
         .write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
-
-    const InFolder inWorkspace(workspace.dir.path());
-    ResetProgramState();
-    RecordingHost host;
-    model m;
-    m.LoadProject(workspace.project);
-    for (bool all : {true, false}) {
-        for (int32_t result = 0; result < 3; ++result)
-            (void)(m.GetSpan(all, result) + m.GetLength(all, result) + m.GetHeight(all, result));
-    }
-    if (!LoadedCleanly(host) || m.Files.empty())
-        return 0;
-
-    const ProjectRecord first = Program().ProjectData;
-    Program().ProjectData.ProjectFile = workspace.saved;
-    m.SaveProject();
-    ResetProgramState();
-    model again;
-    again.LoadProject(workspace.saved);
-    if (!LoadedCleanly(host) || Numbers(Program().ProjectData) != Numbers(first))
+    // Plain file names find the workspace's files while the text loads; the fuzzer's own relative
+    // paths (corpus, findings) need the folder it was started in.
+    const std::filesystem::path started = std::filesystem::current_path();
+    std::filesystem::current_path(workspace.dir.path());
+    const bool kept = SaveAndLoadKeepNumbers(workspace);
+    std::filesystem::current_path(started);
+    if (!kept)
         std::abort();
     return 0;
 }

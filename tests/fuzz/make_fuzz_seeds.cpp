@@ -21,24 +21,21 @@ constexpr int kMoxSeeds = 40;
 // Each seed's path under DIR and its bytes.
 using Seeds = std::vector<std::pair<std::string, std::vector<uint8_t>>>;
 
-// 256-colour and 24-bit files with odd widths, padded lines and runs across line ends, and one
-// without its palette marker; the fuzzer finds the other depths and plane counts from these.
-void AddPcxSeeds(Seeds& seeds) {
+Seeds AllSeeds() {
+    // 256-colour and 24-bit files with odd widths, padded lines and runs across line ends, and one
+    // without its palette marker; the fuzzer finds the other depths and plane counts from these.
     PcxWriteOptions padded;
     padded.bytesPerLine = 12;
     padded.padding = 0xC7;
     padded.runs = PcxRuns::AcrossLines;
-    const PcxPalette palette = TestPalette();
-    std::vector<uint8_t> unmarked = EncodePcx8(7, 5, TestIndices(7, 5, 1), palette);
+    std::vector<uint8_t> unmarked = EncodePcx8(7, 5, TestIndices(7, 5, 1), TestPalette());
     unmarked[unmarked.size() - kPcxPaletteBlockBytes] = 0;
-    seeds.push_back(
-        {"fuzz_pcx/palette.pcx", EncodePcx8(9, 6, TestIndices(9, 6, 2), palette, padded)});
-    seeds.push_back({"fuzz_pcx/rgb.pcx", EncodePcx24(11, 7, TestRgb(11, 7, 1), padded)});
-    seeds.push_back({"fuzz_pcx/no-palette-marker.pcx", unmarked});
-}
+    Seeds seeds = {
+        {"fuzz_pcx/palette.pcx", EncodePcx8(9, 6, TestIndices(9, 6, 2), TestPalette(), padded)},
+        {"fuzz_pcx/rgb.pcx", EncodePcx24(11, 7, TestRgb(11, 7, 1), padded)},
+        {"fuzz_pcx/no-palette-marker.pcx", unmarked}};
 
-// Generated model files of every kind, and their JSON form for the build command's reader.
-void AddMoxSeeds(Seeds& seeds) {
+    // Generated model files of every kind, and their JSON form for the build command's reader.
     std::mt19937 random(1);
     RandomMoxOptions options;
     options.prefixedNulls = true;
@@ -50,11 +47,9 @@ void AddMoxSeeds(Seeds& seeds) {
         const std::string json = MoxToJson(ReadMoxBytes(bytes, "SEED.MOX", 0), {}).dump();
         seeds.push_back({"fuzz_moxjson" + name, {json.begin(), json.end()}});
     }
-}
 
-// A configuration as the program writes it, with options away from their defaults, and project
-// files as the program writes them and as people edit them.
-void AddTextSeeds(Seeds& seeds) {
+    // A configuration as the program writes it, with options away from their defaults, and
+    // project files as the program writes them and as people edit them.
     ProgramState state;
     state.RecentModels[0] = "/models/with blanks/PLANEF.MOX";
     state.LineColour = {0, 7, 255};
@@ -71,6 +66,7 @@ void AddTextSeeds(Seeds& seeds) {
     };
     for (const auto& [name, text] : texts)
         seeds.push_back({name, {text.begin(), text.end()}});
+    return seeds;
 }
 
 } // namespace
@@ -81,11 +77,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     const std::filesystem::path root = argv[1];
-    Seeds seeds;
-    AddPcxSeeds(seeds);
-    AddMoxSeeds(seeds);
-    AddTextSeeds(seeds);
-    for (const auto& [name, bytes] : seeds) {
+    for (const auto& [name, bytes] : AllSeeds()) {
         const std::filesystem::path path = root / name;
         std::error_code error;
         std::filesystem::create_directories(path.parent_path(), error);

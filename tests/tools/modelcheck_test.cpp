@@ -20,9 +20,10 @@ namespace {
 constexpr int16_t kOne = 16384;
 
 // A square of side 10 in the plane z = 0, its stored corners clockwise seen from +Z, in element 0
-// with the plane (0, 0, 1), D 0.
+// with the plane (0, 0, 1), D 0, its texture PLANE.TPC.
 MoxBuilder Square() {
     MoxBuilder model;
+    model.SetTexture("PLANE.TPC");
     model.nodes = {Node{0, 0, 0, 0}, Node{10, 0, 0, 0}, Node{10, 0, 10, 0}, Node{0, 0, 10, 0}};
     model.planes = {NRMRecord{0, kOne, 0, 0, 0}};
     model.root = {0, kNoElement};
@@ -33,6 +34,8 @@ MoxBuilder Square() {
     return model;
 }
 
+using Spoil = std::function<void(MoxBuilder&)>;
+
 // Adds to the end of element 0's stream what `add` writes.
 void Append(MoxBuilder& model, const std::function<void(StreamBytes&)>& add) {
     StreamBytes stream;
@@ -41,83 +44,79 @@ void Append(MoxBuilder& model, const std::function<void(StreamBytes&)>& add) {
     model.streams[0] = stream.End().bytes;
 }
 
-void AddLines(MoxBuilder& model, int lines) {
-    Append(model, [&](StreamBytes& s) {
+Spoil Appending(const std::function<void(StreamBytes&)>& add) {
+    return [add](MoxBuilder& model) { Append(model, add); };
+}
+
+Spoil Lines(int lines) {
+    return Appending([lines](StreamBytes& s) {
         for (int i = 0; i < lines; ++i)
             s.Line(0, 1, 0);
     });
 }
 
-// Elements beyond the square that hold a line each and lie in its plane.
-void AddLineElements(MoxBuilder& model, int count) {
-    for (int i = 0; i < count; ++i) {
-        model.planes.push_back(model.planes[0]);
-        model.streams.push_back(StreamBytes().Line(0, 1, 0).End().bytes);
-    }
+Spoil Poly(const std::vector<uint8_t>& nodes) {
+    return Appending([nodes](StreamBytes& s) { s.ColouredPoly(nodes, 0); });
 }
 
-void Poly(MoxBuilder& model, const std::vector<uint8_t>& nodes) {
-    Append(model, [&](StreamBytes& s) { s.ColouredPoly(nodes, 0); });
+// Elements beyond the square that hold a line each and lie in its plane, and the tree's children.
+Spoil Elements(int count, const std::vector<ChildPair>& children) {
+    return [count, children](MoxBuilder& model) {
+        for (int i = 0; i < count; ++i) {
+            model.planes.push_back(model.planes[0]);
+            model.streams.push_back(StreamBytes().Line(0, 1, 0).End().bytes);
+        }
+        model.children = children;
+    };
+}
+
+// A line entry as the reader makes it, its spare corner last.
+Piggyback LineEntry(const std::vector<uint8_t>& nodes) {
+    Piggyback line;
+    line.Type = 1;
+    line.CRN = static_cast<uint8_t>(nodes.size() - 1);
+    line.NodeList = nodes;
+    return line;
+}
+
+std::set<std::string> Rules(const char* rule) {
+    return *rule ? std::set<std::string>{rule} : std::set<std::string>{};
+}
+
+std::set<std::string> JsonRules(const std::string& out) {
+    std::set<std::string> rules;
+    for (const Json& finding : Json::parse(out))
+        rules.insert(finding.at("rule").get<std::string>());
+    return rules;
 }
 
 const std::set<std::string> kErrorRules = {"corner-node",  "element-reference", "node-part",
                                            "corner-count", "tree-cycle",        "too-many-entries",
                                            "stream-offset"};
 
-struct RuleRow {
-    const char* rule; // empty: the record is sound
-    std::function<void(MoxBuilder&)> spoil;
-    std::function<void(FileRecord&)> spoilRecord = nullptr;
-};
-
-std::set<std::string> RulesOf(const std::vector<Finding>& findings) {
-    std::set<std::string> rules;
-    for (const Finding& finding : findings)
-        rules.insert(finding.rule);
-    return rules;
-}
-
-std::set<std::string> JsonRules(const Json& findings) {
-    std::set<std::string> rules;
-    for (const Json& finding : findings)
-        rules.insert(finding.at("rule").get<std::string>());
-    return rules;
-}
-
 TEST(ModelCheck, EachRuleFiresOnItsOwnRecordAlone) {
+    struct RuleRow {
+        const char* rule; // empty: the record is sound
+        Spoil spoil;
+        std::function<void(FileRecord&)> spoilRecord = [](FileRecord&) {};
+    };
     const std::vector<RuleRow> rows = {
         {"", [](MoxBuilder&) {}},
-        {"corner-node", [](MoxBuilder& m) { Append(m, [](StreamBytes& s) { s.Line(0, 9, 0); }); }},
-        {"element-reference",
-         [](MoxBuilder& m) {
-             m.children = {{7, kNoElement}};
-         }},
+        {"corner-node", Appending([](StreamBytes& s) { s.Line(0, 9, 0); })},
+        {"element-reference", Elements(0, {{7, kNoElement}})},
         {"node-part", [](MoxBuilder& m) { m.nodes[0].B = 3; }},
         {"corner-count", [](MoxBuilder&) {},
          [](FileRecord& r) {
-             Piggyback line;
-             line.Type = 1;
-             line.CRN = 3;
-             line.NodeList = {0, 1, 2, 0};
-             r.Elements[0].Items.insert(r.Elements[0].Items.begin(), line);
+             r.Elements[0].Items.insert(r.Elements[0].Items.begin(), LineEntry({0, 1, 2, 0}));
              ++r.Elements[0].Count;
          }},
-        {"tree-cycle",
-         [](MoxBuilder& m) {
-             m.children = {{0, kNoElement}};
-         }},
-        {"too-many-entries", [](MoxBuilder& m) { AddLines(m, 255); }},
+        {"tree-cycle", Elements(0, {{0, kNoElement}})},
+        {"too-many-entries", Lines(255)},
         // Too long to read back through a file: 90 more elements of 99 lines, each the child
         // of the one before.
         {"stream-offset", [](MoxBuilder&) {},
          [](FileRecord& r) {
-             Piggyback line;
-             line.Type = 1;
-             line.CRN = 2;
-             line.NodeList = {0, 1, 0};
-             ElementList lines;
-             lines.Items.assign(100, line);
-             lines.Count = 99;
+             const ElementList lines{std::vector<Piggyback>(100, LineEntry({0, 1, 0})), 99};
              for (int e = 1; e <= 90; ++e) {
                  r.PART[e - 1][0] = uint8_t(e);
                  r.NRM.insert(r.NRM.begin() + e, r.NRM[0]);
@@ -127,98 +126,65 @@ TEST(ModelCheck, EachRuleFiresOnItsOwnRecordAlone) {
              }
              r.NumElements = 91;
          }},
-        {"unreached-element", [](MoxBuilder& m) { AddLineElements(m, 1); }},
-        {"element-shared",
-         [](MoxBuilder& m) {
-             AddLineElements(m, 2);
-             m.children = {{1, 2}, {kNoElement, kNoElement}, {1, kNoElement}};
-         }},
+        {"unreached-element", Elements(1, {})},
+        {"element-shared", Elements(2, {{1, 2}, {kNoElement, kNoElement}, {1, kNoElement}})},
         {"zero-normal", [](MoxBuilder& m) { m.planes[0] = NRMRecord{}; }},
         {"normal-length", [](MoxBuilder& m) { m.planes[0].Z = 16000; }},
         {"corner-off-plane", [](MoxBuilder& m) { m.planes[0].D = 5 * kOne; }},
         {"facing-against-normal", [](MoxBuilder& m) { m.planes[0].Z = -kOne; }},
-        {"few-corners",
-         [](MoxBuilder& m) {
-             Poly(m, {0, 1});
-         }},
-        {"repeated-corner",
-         [](MoxBuilder& m) {
-             Poly(m, {0, 1, 1, 2});
-         }},
+        {"few-corners", Poly({0, 1})},
+        {"repeated-corner", Poly({0, 1, 1, 2})},
         {"not-planar", [](MoxBuilder& m) { m.nodes[2].Z = 5; }},
         {"not-convex",
          [](MoxBuilder& m) {
              m.nodes.push_back(Node{5, 0, 5, 0});
-             Poly(m, {0, 1, 4, 2, 3});
+             Poly({0, 1, 4, 2, 3})(m);
          }},
-        {"piggyback-numbers", [](MoxBuilder& m) { AddLines(m, 100); }},
-        {"unused-node",
-         [](MoxBuilder& m) {
-             m.nodes.push_back(Node{1, 2, 3, 0});
-         }},
-        {"same-hardpoint-code",
-         [](MoxBuilder& m) {
-             Append(m, [](StreamBytes& s) {
-                 s.Hardpoint(25, 0).Hardpoint(25, 1).Hardpoint(1, 2).Hardpoint(1, 3);
-             });
-         }},
+        {"piggyback-numbers", Lines(100)},
+        {"unused-node", [](MoxBuilder& m) { m.nodes.resize(5); }},
+        {"same-hardpoint-code", Appending([](StreamBytes& s) {
+             s.Hardpoint(25, 0).Hardpoint(25, 1).Hardpoint(1, 2).Hardpoint(1, 3);
+         })},
     };
-    for (const RuleRow& row : rows) {
-        SCOPED_TRACE(row.rule);
+    for (const auto& [rule, spoil, spoilRecord] : rows) {
+        SCOPED_TRACE(rule);
         MoxBuilder model = Square();
-        row.spoil(model);
-        FileRecord record;
-        std::vector<std::string> messages;
-        {
-            CollectingHost host;
-            record = ReadMoxBytes(model.Build(), "TEST.MOX", 0);
-            messages = host.messages;
-        }
-        if (row.spoilRecord)
-            row.spoilRecord(record);
-        const std::vector<Finding> findings = CheckRecord(record, messages);
-        const std::set<std::string> expected =
-            *row.rule ? std::set<std::string>{row.rule} : std::set<std::string>{};
-        EXPECT_EQ(RulesOf(findings), expected);
-        for (const Finding& finding : findings)
+        spoil(model);
+        CollectingHost host;
+        FileRecord record = ReadMoxBytes(model.Build(), "TEST.MOX", 0);
+        spoilRecord(record);
+        std::set<std::string> rules;
+        for (const Finding& finding : CheckRecord(record, host.messages)) {
+            rules.insert(finding.rule);
             EXPECT_EQ(finding.severity == Severity::Error, kErrorRules.count(finding.rule) == 1);
+        }
+        EXPECT_EQ(rules, Rules(rule));
     }
 }
 
 // The rules that look at files beside the model, through the command and its JSON output.
 TEST(ModelCheck, TextureAndFamilyRulesAndTheExitStatus) {
-    struct FileRow {
-        const char* rule;
-        bool texture;
-        bool mainHardpoint;
-        bool connectedFile;
-    };
-    const FileRow rows[] = {
+    // Rule, texture written, hardpoint in the main file, connected file written.
+    const std::tuple<const char*, bool, bool, bool> rows[] = {
         {"", true, true, true},
         {"texture", false, false, false},
         {"family-hardpoint", true, true, false},
         {"family-hardpoint", true, false, true},
     };
-    for (const FileRow& row : rows) {
-        SCOPED_TRACE(std::string(row.rule) + (row.mainHardpoint ? " main" : " connected"));
+    for (const auto& [rule, texture, mainHardpoint, connectedFile] : rows) {
+        SCOPED_TRACE(std::string(rule) + (mainHardpoint ? " main" : " connected"));
         TempDir dir;
         MoxBuilder main = Square();
-        main.SetTexture("PLANE.TPC");
-        if (row.mainHardpoint)
+        if (mainHardpoint)
             Append(main, [](StreamBytes& s) { s.Hardpoint(25, 0); });
         WriteTestFile(dir.file("PLANEF.MOX"), main.Build());
-        if (row.connectedFile) {
-            MoxBuilder connected = Square();
-            connected.SetTexture("PLANE.TPC");
-            WriteTestFile(dir.file("PLANEA.MOX"), connected.Build());
-        }
-        if (row.texture)
-            WriteTestFile(dir.file("PLANE.PCX"),
-                          EncodePcx8(4, 4, TestIndices(4, 4, 1), TestPalette()));
+        if (connectedFile)
+            WriteTestFile(dir.file("PLANEA.MOX"), Square().Build());
+        if (texture)
+            WritePcx8(dir.file("PLANE.PCX"), 4, 4, TestIndices(4, 4, 1), TestPalette());
         const ToolRun run = RunTool({"check", "--family", "--json", dir.file("PLANEF.MOX")});
         EXPECT_EQ(run.status, kExitOk);
-        EXPECT_EQ(JsonRules(Json::parse(run.out)),
-                  *row.rule ? std::set<std::string>{row.rule} : std::set<std::string>{});
+        EXPECT_EQ(JsonRules(run.out), Rules(rule));
     }
 
     // Errors give status 1, an unreadable file 2.
@@ -244,21 +210,15 @@ TEST(ModelCheck, FixPlanesRestoresASpoiledPlane) {
         SCOPED_TRACE(rule);
         TempDir dir;
         MoxBuilder model = Square();
-        const NRMRecord sound = model.planes[0];
         model.planes[0] = spoiled;
         WriteTestFile(dir.file("S.MOX"), model.Build());
-        ToolRun run = RunTool({"check", "--json", dir.file("S.MOX")});
-        // The square names no texture file: that finding stays.
-        EXPECT_EQ(JsonRules(Json::parse(run.out)), (std::set<std::string>{rule, "texture"}));
-
-        run = RunTool({"check", "--json", dir.file("S.MOX"), "--fix-planes", dir.file("F.MOX")});
-        const Json fixes = Json::parse(run.out);
-        ASSERT_EQ(fixes.back().at("severity"), "fixed") << fixes.dump();
-        const NRMRecord fixed = READ_MOX(dir.file("F.MOX"), 0).NRM[0];
-        EXPECT_EQ(std::tie(fixed.X, fixed.Y, fixed.Z, fixed.D, fixed.F),
-                  std::tie(sound.X, sound.Y, sound.Z, sound.D, sound.F));
-        EXPECT_EQ(JsonRules(Json::parse(RunTool({"check", "--json", dir.file("F.MOX")}).out)),
-                  std::set<std::string>{"texture"});
+        const ToolRun run =
+            RunTool({"check", "--json", dir.file("S.MOX"), "--fix-planes", dir.file("F.MOX")});
+        // No PLANE.PCX lies beside the square: that finding stays.
+        EXPECT_EQ(JsonRules(run.out), (std::set<std::string>{rule, "texture", "fix-planes"}));
+        EXPECT_EQ(Json::parse(run.out).back().at("severity"), "fixed") << run.out;
+        EXPECT_EQ(ReadFileBytes(dir.file("F.MOX")),
+                  SavedBytes(ReadMoxBytes(Square().Build(), "F.MOX", 0)));
     }
 }
 

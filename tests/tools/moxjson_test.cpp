@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
+#include <tuple>
 
 namespace {
 
@@ -33,116 +33,87 @@ MoxBuilder SmallModel() {
 }
 
 Json SmallModelJson() {
-    return MoxToJson(ReadMoxBytes(SmallModel().Build(), "S.MOX", 0), {});
+    return MoxToJson(ReadMoxBytes(SmallModel().Build(), "S.MOX", 0), {"a message"});
 }
 
 } // namespace
 
+// The whole text of the form: keys in their order, texture bytes as characters, every entry.
 TEST(MoxJson, HoldsEveryFieldInItsFixedForm) {
-    const Json json = SmallModelJson();
-    EXPECT_EQ(json["format"], "skylathe-mox/1");
-    EXPECT_EQ(json["texture"], std::string("p\xC3\xA9.tpc\0\0\0\0\0  \0", 15));
-    EXPECT_NE(json.dump().find(R"("texture":"pé.tpc\u0000)"), std::string::npos);
-    EXPECT_EQ(json["num_parts"], 2);
-    EXPECT_EQ(json["parts"][0], Json::parse(R"({"code":1,"num":2,"x":5,"y":3,"z":4})"));
-    EXPECT_EQ(json["nodes"][1], Json::parse(R"({"x":6,"y":4,"z":5,"b":1})"));
-    EXPECT_EQ(json["root"], Json::parse("[255,255]"));
-    EXPECT_EQ(json["children"][1], Json::parse("[255,255]"));
-    EXPECT_EQ(json["offsets"].size(), 2u);
-
-    const Json& items = json["elements"][0];
-    ASSERT_EQ(items.size(), 4u);
-    EXPECT_EQ(items[0], Json::parse(R"({"number":0,"cod":148,"flag":1,"type":5,"crn":3,
-        "nodes":[0,1,2],"xmap":[32,112,48],"ymap":[64,64,8],"att1":0,"att2":7})"));
-    EXPECT_EQ(items[1], Json::parse(R"({"number":1,"cod":0,"flag":0,"type":1,"crn":2,
-        "nodes":[0,1],"att1":7})"));
-    EXPECT_EQ(items[2], Json::parse(R"({"number":2,"cod":0,"flag":0,"type":4,"crn":2,
-        "nodes":[1,2],"xmap":[9,8]})"));
-    EXPECT_EQ(items[3], Json::parse(R"({"number":3,"cod":0,"flag":0,"type":2,"crn":1,
-        "nodes":[2],"att1":25})"));
-    EXPECT_EQ(json["elements"][1][0], Json::parse(R"({"number":100,"cod":150,"flag":2,
-        "type":255,"crn":0,"nodes":[]})"));
-    ASSERT_EQ(json["hardpoints"].size(), 8u);
-    EXPECT_EQ(json["hardpoints"][1], Json::parse(R"({"x":9,"y":7,"z":8,"b":0})"));
-    EXPECT_EQ(json["messages"], Json::array());
+    EXPECT_EQ(
+        SmallModelJson().dump(),
+        R"({"format":"skylathe-mox/1","radius":0,)"
+        R"("texture":"pé.tpc\u0000\u0000\u0000\u0000\u0000  \u0000","num_parts":2,)"
+        R"("num_nodes":3,"num_elements":2,"parts":[{"code":1,"num":2,"x":5,"y":3,"z":4}],)"
+        R"("planes":[{"x":0,"y":0,"z":0,"d":0,"f":0},{"x":0,"y":0,"z":0,"d":0,"f":0}],)"
+        R"("root":[255,255],"children":[[255,255],[255,255]],"nodes":[{"x":3,"y":1,"z":2,)"
+        R"("b":0},{"x":6,"y":4,"z":5,"b":1},{"x":9,"y":7,"z":8,"b":0}],"offsets":[88,117],)"
+        R"("elements":[[{"number":0,"cod":148,"flag":1,"type":5,"crn":3,"nodes":[0,1,2],)"
+        R"("xmap":[32,112,48],"ymap":[64,64,8],"att1":0,"att2":7},{"number":1,"cod":0,"flag":0,)"
+        R"("type":1,"crn":2,"nodes":[0,1],"att1":7},{"number":2,"cod":0,"flag":0,"type":4,)"
+        R"("crn":2,"nodes":[1,2],"xmap":[9,8]},{"number":3,"cod":0,"flag":0,"type":2,"crn":1,)"
+        R"("nodes":[2],"att1":25}],[{"number":100,"cod":150,"flag":2,"type":255,"crn":0,)"
+        R"("nodes":[]}]],"hardpoints":[{"x":0,"y":0,"z":0,"b":0},{"x":9,"y":7,"z":8,"b":0},)"
+        R"({"x":0,"y":0,"z":0,"b":0},{"x":0,"y":0,"z":0,"b":0},{"x":0,"y":0,"z":0,"b":0},)"
+        R"({"x":0,"y":0,"z":0,"b":0},{"x":0,"y":0,"z":0,"b":0},{"x":0,"y":0,"z":0,"b":0}],)"
+        R"("messages":["a message"]})");
 }
 
+// Random files of every kind, and first a damaged one whose blank entries must survive the trip.
 TEST(MoxJson, BuildWritesWhatResaveWrites) {
     std::mt19937 random(99);
     RandomMoxOptions options;
     options.prefixedNulls = true;
-    for (int file = 0; file < 200; ++file) {
-        const FileRecord record = ReadMoxBytes(RandomMox(random, options).Build(), "R.MOX", 0);
+    MoxBuilder damaged;
+    damaged.streams = {StreamBytes().Raw(std::vector<uint8_t>(1100, 3)).bytes,
+                       StreamBytes().End().bytes};
+    RecordingHost host;
+    for (int file = 0; file <= 200; ++file) {
+        const FileRecord record = ReadMoxBytes(
+            file == 0 ? damaged.Build() : RandomMox(random, options).Build(), "R.MOX", 0);
         const std::string text = MoxToJson(record, {"a message"}).dump(2);
         FileRecord built;
         std::string error;
         ASSERT_TRUE(MoxFromJson(Json::parse(text), built, error)) << error;
         ASSERT_EQ(SavedBytes(built), SavedBytes(record)) << "file " << file;
     }
-
-    // A damaged file too: its blank entries and messages survive the trip.
-    MoxBuilder damaged;
-    damaged.streams = {StreamBytes().Raw(std::vector<uint8_t>(1100, 3)).bytes,
-                       StreamBytes().End().bytes};
-    RecordingHost host;
-    const FileRecord record = ReadMoxBytes(damaged.Build(), "D.MOX", 0);
-    const Json json = MoxToJson(record, host.messages);
-    EXPECT_EQ(json["messages"], Json::parse(R"(["Error in MOX file.  Around element number: 0",
-        "Error in MOX file.  Around element number: 1"])"));
-    FileRecord built;
-    std::string error;
-    ASSERT_TRUE(MoxFromJson(json, built, error)) << error;
-    EXPECT_EQ(built.Elements[1].Count, 256);
-    EXPECT_EQ(SavedBytes(built), SavedBytes(record));
 }
 
 TEST(MoxJson, RefusesABadValueNamingItsPath) {
-    struct Case {
-        std::function<void(Json&)> change;
-        std::string error;
-    };
-    const std::vector<Case> cases = {
-        {[](Json& j) { j["format"] = "skylathe-mox/2"; }, R"(format: must be "skylathe-mox/1")"},
-        {[](Json& j) { j.erase("radius"); }, "radius: missing"},
-        {[](Json& j) { j["radius"] = 40000; }, "radius: 40000 is out of range -32768 to 32767"},
-        {[](Json& j) { j["radius"] = 1.5; }, "radius: not an integer"},
-        {[](Json& j) { j["texture"] = "SHORT.TPC"; }, "texture: 9 characters, must be 14"},
-        {[](Json& j) {
-             j["texture"] = "\xE2\x82\xAC"
-                            "234567890123";
-         },
-         "texture: holds a character above U+00FF"},
-        {[](Json& j) { j["num_parts"] = 3; }, "parts: 1 entries, num_parts - 1 is 2"},
-        {[](Json& j) { j["planes"][1]["d"] = 4294967296; },
+    // The value set at a path (a null one erases the key) and the error that names it.
+    const std::tuple<const char*, Json, const char*> rows[] = {
+        {"/format", "skylathe-mox/2", R"(format: must be "skylathe-mox/1")"},
+        {"/radius", nullptr, "radius: missing"},
+        {"/radius", 40000, "radius: 40000 is out of range -32768 to 32767"},
+        {"/radius", 1.5, "radius: not an integer"},
+        {"/texture", "SHORT.TPC", "texture: 9 characters, must be 14"},
+        {"/texture", "\u20AC234567890123", "texture: holds a character above U+00FF"},
+        {"/num_parts", 3, "parts: 1 entries, num_parts - 1 is 2"},
+        {"/planes/1/d", 4294967296,
          "planes[1].d: 4294967296 is out of range -2147483648 to 2147483647"},
-        {[](Json& j) { j["root"] = Json::array({1}); }, "root: 1 entries, a root is a pair"},
-        {[](Json& j) {
-             j["children"][0] = Json::array({1, 2, 3});
-         },
-         "children[0]: not a pair"},
-        {[](Json& j) { j["elements"][0][0]["nodes"].push_back(1); },
-         "elements[0][0].nodes: 4 entries, crn is 3"},
-        {[](Json& j) {
-             j["elements"][0][1]["nodes"] = Json::array({1, 2, 3});
-         },
+        {"/root", Json::array({1}), "root: 1 entries, a root is a pair"},
+        {"/children/0", Json::array({1, 2, 3}), "children[0]: not a pair"},
+        {"/elements/0/0/nodes/-", 1, "elements[0][0].nodes: 4 entries, crn is 3"},
+        {"/elements/0/1/nodes", Json::array({1, 2, 3}),
          "elements[0][1].nodes: 3 entries, type 1 has 2"},
-        {[](Json& j) { j["elements"][0][1]["cod"] = 3; },
-         "elements[0][1].cod: 3 is not 0 nor 7 to 254"},
-        {[](Json& j) { j["elements"][0][1]["type"] = 77; },
-         "elements[0][1].type: 77 needs a display code (cod)"},
-        {[](Json& j) { j["elements"][1][0]["nodes"] = Json::array({1}); },
+        {"/elements/0/1/cod", 3, "elements[0][1].cod: 3 is not 0 nor 7 to 254"},
+        {"/elements/0/1/type", 77, "elements[0][1].type: 77 needs a display code (cod)"},
+        {"/elements/1/0/nodes", Json::array({1}),
          "elements[1][0].nodes: 1 entries, type 255 has 0"},
-        {[](Json& j) { j["elements"][1] = 5; }, "elements[1]: not a list"},
-        {[](Json& j) { j = Json::array(); }, "(top): not an object"},
+        {"/elements/1", 5, "elements[1]: not a list"},
+        {"", Json::array(), "(top): not an object"},
     };
-    for (const Case& c : cases) {
+    for (const auto& [path, value, expected] : rows) {
         Json json = SmallModelJson();
-        c.change(json);
+        if (value.is_null())
+            json.erase(path + 1);
+        else
+            json[Json::json_pointer(path)] = value;
         FileRecord record;
         record.Radius = 77;
         std::string error;
-        EXPECT_FALSE(MoxFromJson(json, record, error)) << c.error;
-        EXPECT_EQ(error, c.error);
+        EXPECT_FALSE(MoxFromJson(json, record, error)) << expected;
+        EXPECT_EQ(error, expected);
         EXPECT_EQ(record.Radius, 77) << "a refused form leaves the record alone";
     }
 

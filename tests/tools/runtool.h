@@ -18,11 +18,8 @@ inline ToolRun RunTool(const Arguments& words) {
     std::ostringstream err;
     std::streambuf* const oldOut = std::cout.rdbuf(out.rdbuf());
     std::streambuf* const oldErr = std::cerr.rdbuf(err.rdbuf());
-    ToolRun run;
-    run.status = RunMoxtool(words);
+    const int status = RunMoxtool(words);
     std::cout.rdbuf(oldOut);
     std::cerr.rdbuf(oldErr);
-    run.out = out.str();
-    run.err = err.str();
-    return run;
+    return {status, out.str(), err.str()};
 }

@@ -14,7 +14,6 @@
 
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
 #include <sys/wait.h>
 
 TEST(Sample, BothFamiliesLoadWholeResaveToTheirBytesCheckCleanAndExport) {
@@ -40,15 +39,13 @@ TEST(Sample, BothFamiliesLoadWholeResaveToTheirBytesCheckCleanAndExport) {
         ASSERT_EQ(textures.requests.size(), family.slots.size());
         for (const auto& request : textures.requests)
             EXPECT_TRUE(std::ifstream(request.path).good()) << request.path;
-        for (int slot = 0; slot < kFileSlots; ++slot) {
-            const FileRecord& file = loaded.Files[slot];
-            const bool wanted =
-                std::find(family.slots.begin(), family.slots.end(), slot) != family.slots.end();
-            ASSERT_EQ(file.Loaded, wanted) << "slot " << slot;
-            if (wanted) {
-                EXPECT_EQ(SavedBytes(file), ReadFileBytes(file.Filename)) << file.Filename;
-            }
-        }
+        std::vector<int> slots;
+        for (int slot = 0; slot < kFileSlots; ++slot)
+            if (loaded.Files[slot].Loaded)
+                slots.push_back(slot);
+        EXPECT_EQ(slots, family.slots);
+        for (const int slot : slots)
+            EXPECT_EQ(SavedBytes(loaded.Files[slot]), ReadFileBytes(loaded.Files[slot].Filename));
 
         const ToolRun check = RunTool({"check", "--family", "--json", name});
         EXPECT_EQ(check.status, kExitOk);
