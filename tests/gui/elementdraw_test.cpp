@@ -18,10 +18,6 @@ namespace {
 
 constexpr int kColourTolerance = 6;
 
-bool Near(const Rgb& a, const Rgb& b) {
-    return Near(a, b, kColourTolerance);
-}
-
 Rgb At(const QImage& frame, const QPoint& point) {
     return PixelAt(frame, point.x(), point.y());
 }
@@ -29,7 +25,7 @@ Rgb At(const QImage& frame, const QPoint& point) {
 // The colour at the model point (x, 0, z), read as `expected` when it lies near enough to it.
 Rgb Seen(const QImage& frame, double x, double z, const Rgb& expected) {
     const Rgb seen = At(frame, OnScreen(x, 0, z));
-    return Near(seen, expected) ? expected : seen;
+    return Near(seen, expected, kColourTolerance) ? expected : seen;
 }
 
 const Rgb kOrange{255, 128, 38};
@@ -38,7 +34,7 @@ const Rgb kOrange{255, 128, 38};
 int RunThrough(const QImage& frame, const QPoint& centre, bool alongRow = true) {
     const QPoint step = alongRow ? QPoint(1, 0) : QPoint(0, 1);
     const auto notSky = [&](const QPoint& at) {
-        return frame.rect().contains(at) && !Near(At(frame, at), kStartSky);
+        return frame.rect().contains(at) && !Near(At(frame, at), kStartSky, kColourTolerance);
     };
     int run = 1;
     for (QPoint at = centre - step; notSky(at); at -= step)
@@ -50,7 +46,7 @@ int RunThrough(const QImage& frame, const QPoint& centre, bool alongRow = true) 
 
 } // namespace
 
-TEST_F(EditorTest, AFileWithoutElementsPaintsItsNodesSizedByTheLineWeight) {
+TEST_F(EditorTest, NodesAreSizedByTheLineWeightAndTheSelectedOneHasAxisLinesTenUnitsLong) {
     TestFile file;
     file.AddNode(-20, 0, 0);
     file.AddNode(20, 0, 0);
@@ -71,6 +67,29 @@ TEST_F(EditorTest, AFileWithoutElementsPaintsItsNodesSizedByTheLineWeight) {
     const QImage empty = ReadFrame();
     EXPECT_EQ(Seen(empty, -20, 0, kStartSky), kStartSky);
     EXPECT_EQ(Seen(empty, 20, 0, kStartSky), kStartSky);
+
+    // In the Nodes tab the selected node carries its axis lines.
+    View().CurrentTab = kNodesTab;
+    for (float zoom : {-100.0f, -300.0f}) {
+        CurrentModel().m_zoom = zoom;
+        const QImage axes = ReadFrame();
+        EXPECT_EQ((std::vector<Rgb>{Seen(axes, 29.5, 0, kRed), Seen(axes, 30.5, 0, kStartSky),
+                                    Seen(axes, 20, 9.5, kBlue), Seen(axes, 20, 10.5, kStartSky)}),
+                  (std::vector<Rgb>{kRed, kStartSky, kBlue, kStartSky}))
+            << "zoom " << zoom;
+    }
+    // The X line is ticked, so it is 2 pixels wider than the line weight; Z is not.
+    CurrentModel().m_zoom = -100.0f;
+    const QImage axes = ReadFrame();
+    EXPECT_EQ(RunThrough(axes, OnScreen(25, 0, 0), false), 5);
+    EXPECT_EQ(RunThrough(axes, OnScreen(20, 0, 5)), 3);
+
+    // The depth test goes off once when the rendering sequence is turned on, and on again.
+    for (const bool sequence : {true, false}) {
+        View().mnu_v_rs = sequence;
+        ReadFrame();
+        EXPECT_EQ(glIsEnabled(GL_DEPTH_TEST) == GL_TRUE, !sequence);
+    }
 }
 
 TEST_F(EditorTest, StateCodesHidePolygonsButNotHardpoints) {
@@ -120,39 +139,6 @@ TEST_F(EditorTest, OutlinesSelectionAndCulling) {
                                     Seen(frame, 20, 0, kStartSky), Seen(frame, 0, 25, kStartSky)}),
                   (std::vector<Rgb>{centre, edge, kStartSky, kStartSky}));
     }
-}
-
-TEST_F(EditorTest, AxisLinesAreTenUnitsLongAtEveryZoom) {
-    TestFile file;
-    file.AddNode(-5, 0, -5);
-    InstallFamily({file.record});
-    View().CurrentTab = kNodesTab;
-    CurrentModel().m_currnode = 0;
-    Program().LineWeight = 3;
-
-    for (float zoom : {-100.0f, -300.0f}) {
-        CurrentModel().m_zoom = zoom;
-        const QImage frame = ReadFrame();
-        EXPECT_EQ((std::vector<Rgb>{Seen(frame, 4.5, -5, kRed), Seen(frame, 5.5, -5, kStartSky),
-                                    Seen(frame, -5, 4.5, kBlue), Seen(frame, -5, 5.5, kStartSky)}),
-                  (std::vector<Rgb>{kRed, kStartSky, kBlue, kStartSky}))
-            << "zoom " << zoom;
-    }
-    // The X line is ticked, so it is 2 pixels wider than the line weight; Z is not.
-    CurrentModel().m_zoom = -100.0f;
-    const QImage frame = ReadFrame();
-    EXPECT_EQ(RunThrough(frame, OnScreen(0, 0, -5), false), 5);
-    EXPECT_EQ(RunThrough(frame, OnScreen(-5, 0, 0)), 3);
-
-    // The depth test goes off once when the rendering sequence is turned on, and on again.
-    View().mnu_v_rs = true;
-    ReadFrame();
-    EXPECT_TRUE(SequenceOn());
-    EXPECT_FALSE(glIsEnabled(GL_DEPTH_TEST));
-    View().mnu_v_rs = false;
-    ReadFrame();
-    EXPECT_FALSE(SequenceOn());
-    EXPECT_TRUE(glIsEnabled(GL_DEPTH_TEST));
 }
 
 TEST_F(EditorTest, BrokenPiggybacksAreAbandonedAndLaterOnesStillPaint) {
