@@ -51,8 +51,8 @@ protected:
 };
 
 // Two nodes on the line of sight at the centre, the farther one first; overlapping squares at two
-// depths; two equal squares in one element; a state-hidden square beside a visible one; a back
-// face; a line.
+// depths; two equal squares in one element; a state-hidden square beside a visible one. What the
+// painters leave out (back faces, lines) the pick pass, which runs the same painters, misses too.
 FileRecord PickScene() {
     TestFile file;
     file.AddNode(0, 40, 0);
@@ -63,9 +63,6 @@ FileRecord PickScene() {
                      Polygon(kTextured, file.AddSquare(30, 0, 10))});
     file.AddElement({Polygon(kTextured, file.AddSquare(0, 30, 10), kCodePilot, kPilotDead),
                      Polygon(kTextured, file.AddSquare(30, 30, 10))});
-    file.AddElement({Polygon(kTextured, file.AddSquare(0, -30, 10, true))});
-    const auto line = file.AddSquare(-30, -30, 10);
-    file.AddElement({Polygon(1, {line[0], line[2]})});
     return file.record;
 }
 
@@ -92,14 +89,12 @@ TEST_F(ViewInputTest, ClickSelectsByTabAndRanksByDepth) {
         {"equal depths keep the first painted", 3, Point3{30, 0, 0}, 200, 0, 200},
         {"second piggyback of an element", 3, Point3{30, 0, 30}, 301, 0, 301},
         {"polygon hidden by the pilot state", 3, Point3{0, 0, 30}, -1, -1, kUntouched},
-        {"back face", 3, Point3{0, 0, -30}, -1, -1, kUntouched},
-        {"line", 3, Point3{-30, 0, -30}, -1, -1, kUntouched},
         {"connected file, under the name each file starts with", 3, Point3{30, 0, -30}, 0, 0, 0},
         {"file that is not loaded", 3, Point3{-30, 0, 30}, -1, -1, kUntouched},
         {"sky in the Elements tab", 3, std::nullopt, -1, -1, kUntouched},
         {"lower of two nodes, the farther", 4, Point3{0, 0, 0}, 0, 0, 0},
         // Outside the Move tool the axis lines carry no name of their own.
-        {"axis line, under the last node's name", 4, Point3{6, 40, 0}, 0, 33, 33},
+        {"axis line, under the last node's name", 4, Point3{6, 40, 0}, 0, 25, 25},
         {"sky in the Nodes tab", 4, std::nullopt, -1, -1, kUntouched},
     };
     FileRecord unloaded = ConnectedSquare();
