@@ -3,6 +3,7 @@
 #include "currentmodel.h"
 #include "drawscene.h"
 #include "editorfixture.h"
+#include "elementkind.h"
 #include "moxdraw.h"
 #include "oglgraphics.h"
 #include "programstate.h"
@@ -18,13 +19,10 @@ namespace {
 
 constexpr int kColourTolerance = 6;
 
-Rgb At(const QImage& frame, const QPoint& point) {
-    return PixelAt(frame, point.x(), point.y());
-}
-
 // The colour at the model point (x, 0, z), read as `expected` when it lies near enough to it.
 Rgb Seen(const QImage& frame, double x, double z, const Rgb& expected) {
-    const Rgb seen = At(frame, OnScreen(x, 0, z));
+    const QPoint at = OnScreen(x, 0, z);
+    const Rgb seen = PixelAt(frame, at.x(), at.y());
     return Near(seen, expected, kColourTolerance) ? expected : seen;
 }
 
@@ -34,7 +32,8 @@ const Rgb kOrange{255, 128, 38};
 int RunThrough(const QImage& frame, const QPoint& centre, bool alongRow = true) {
     const QPoint step = alongRow ? QPoint(1, 0) : QPoint(0, 1);
     const auto notSky = [&](const QPoint& at) {
-        return frame.rect().contains(at) && !Near(At(frame, at), kStartSky, kColourTolerance);
+        return frame.rect().contains(at) &&
+               !Near(PixelAt(frame, at.x(), at.y()), kStartSky, kColourTolerance);
     };
     int run = 1;
     for (QPoint at = centre - step; notSky(at); at -= step)
@@ -96,7 +95,8 @@ TEST_F(EditorTest, StateCodesHidePolygonsButNotHardpoints) {
     TestFile file;
     const auto face = file.AddSquare(-20, 0, 8);
     const uint8_t point = file.AddNode(20, 0, 0);
-    file.AddElement({Polygon(kTextured, face, kCodePilot, 2), HardpointAt(point, kCodePilot, 1)});
+    file.AddElement(
+        {Polygon(kTextured, face, kCodePilot, 2), Polygon(kTypeHardpoint, {point}, kCodePilot, 1)});
     InstallFamily({file.record});
 
     for (int pilot : {0, 1, 2}) {
@@ -154,7 +154,7 @@ TEST_F(EditorTest, BrokenPiggybacksAreAbandonedAndLaterOnesStillPaint) {
     auto noSuchPart = file.AddSquare(-20, -20, 5);
     noSuchPart.back() = file.AddNode(0, 0, 0, 7);
     file.AddElement({Polygon(kTextured, beyondNodes), Polygon(kTextured, overflow),
-                     Polygon(kTextured, noSuchPart), HardpointAt(200)});
+                     Polygon(kTextured, noSuchPart), Polygon(kTypeHardpoint, {200})});
     file.AddElement({Polygon(kTextured, file.AddSquare(20, 0, 5))});
     // Counts beyond the arrays they count.
     file.AddElement({Polygon(kTextured, file.AddSquare(20, 20, 5))});
