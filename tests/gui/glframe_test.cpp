@@ -21,13 +21,9 @@
 namespace {
 
 void ExpectSkyEverywhere(const QImage& frame, const char* what) {
-    ASSERT_FALSE(frame.isNull()) << what;
-    const int right = frame.width() - 1;
-    const int bottom = frame.height() - 1;
-    for (const QPoint& at : {QPoint(0, 0), QPoint(right, 0), QPoint(0, bottom),
-                             QPoint(right, bottom), QPoint(right / 2, bottom / 2)})
-        EXPECT_EQ(PixelAt(frame, at.x(), at.y()), kStartSky)
-            << what << " at " << at.x() << "," << at.y();
+    QImage sky(frame.size(), QImage::Format_RGB32);
+    sky.fill(QColor(kStartSky.red, kStartSky.green, kStartSky.blue));
+    EXPECT_TRUE(!frame.isNull() && frame.convertToFormat(QImage::Format_RGB32) == sky) << what;
 }
 
 } // namespace
