@@ -91,23 +91,7 @@ TEST_F(EditorTest, NodesAreSizedByTheLineWeightAndTheSelectedOneHasAxisLinesTenU
     }
 }
 
-TEST_F(EditorTest, StateCodesHidePolygonsButNotHardpoints) {
-    TestFile file;
-    const auto face = file.AddSquare(-20, 0, 8);
-    const uint8_t point = file.AddNode(20, 0, 0);
-    file.AddElement(
-        {Polygon(kTextured, face, kCodePilot, 2), Polygon(kTypeHardpoint, {point}, kCodePilot, 1)});
-    InstallFamily({file.record});
-
-    for (int pilot : {0, 1, 2}) {
-        CurrentModel().m_pilot = pilot;
-        const QImage frame = ReadFrame();
-        EXPECT_EQ(Seen(frame, -20, 0, kWhite) == kWhite, pilot == 2) << "pilot " << pilot;
-        EXPECT_EQ(Seen(frame, 20, 0, kBlack), kBlack) << "pilot " << pilot;
-    }
-}
-
-TEST_F(EditorTest, OutlinesSelectionAndCulling) {
+TEST_F(EditorTest, OutlinesSelectionStateCodesAndCulling) {
     ASSERT_TRUE(OGL().MakeCurrent());
     TestFile file;
     file.record.TextureID = StripTexture({{200, 160, 40}});
@@ -116,28 +100,35 @@ TEST_F(EditorTest, OutlinesSelectionAndCulling) {
     const auto line = file.AddSquare(0, 25, 5);
     file.AddElement({Polygon(kTextured, front), Polygon(kTextured, back),
                      Polygon(1, {line[0], line[2]}), Polygon(kTypeNull, {})});
+    // A square shown in the third pilot state only; the hardpoint's state code hides nothing.
+    file.AddElement({Polygon(kTextured, file.AddSquare(0, -25, 5), kCodePilot, 2),
+                     Polygon(kTypeHardpoint, {file.AddNode(20, 0, -25)}, kCodePilot, 1)});
     InstallFamily({file.record});
     Program().LineWeight = 3;
     const Rgb texture{200, 160, 40};
 
-    // After each change: the front face's centre and edge, the back face's centre, the line.
-    const std::tuple<std::function<void()>, Rgb, Rgb> steps[] = {
+    // After each change: the front face's centre and edge, the back face's centre, the line, the
+    // pilot-state square, the hardpoint.
+    const std::tuple<std::function<void()>, Rgb, Rgb, Rgb> steps[] = {
         // The line and the NULL entry paint nothing, and the back face is culled.
-        {[] {}, texture, texture},
+        {[] {}, texture, texture, kStartSky},
+        {[] { CurrentModel().m_pilot = 1; }, texture, texture, kStartSky},
+        {[] { CurrentModel().m_pilot = 2; }, texture, texture, texture},
         // Face outlines paint the front face's edges in white over the texture.
-        {[] { View().mnu_v_faces = true; }, texture, kWhite},
+        {[] { View().mnu_v_faces = true; }, texture, kWhite, texture},
         // The selected piggyback is red-tinted over its texture and solid red in line view, its
         // edges red.
-        {[] { CurrentModel().m_currelem = 0; }, {200, 0, 0}, kRed},
-        {[] { View().mnu_v_texture = false; }, kRed, kRed},
+        {[] { CurrentModel().m_currelem = 0; }, {200, 0, 0}, kRed, texture},
+        {[] { View().mnu_v_texture = false; }, kRed, kRed, kStartSky},
         // In another file's selection it is only an outline in the line colour.
-        {[] { CurrentModel().m_currmox = 1; }, kStartSky, kWhite}};
-    for (const auto& [change, centre, edge] : steps) {
+        {[] { CurrentModel().m_currmox = 1; }, kStartSky, kWhite, kStartSky}};
+    for (const auto& [change, centre, edge, shown] : steps) {
         change();
         const QImage frame = ReadFrame();
         EXPECT_EQ((std::vector<Rgb>{Seen(frame, -20, 0, centre), Seen(frame, -30, 0, edge),
-                                    Seen(frame, 20, 0, kStartSky), Seen(frame, 0, 25, kStartSky)}),
-                  (std::vector<Rgb>{centre, edge, kStartSky, kStartSky}));
+                                    Seen(frame, 20, 0, kStartSky), Seen(frame, 0, 25, kStartSky),
+                                    Seen(frame, 0, -25, shown), Seen(frame, 20, -25, kBlack)}),
+                  (std::vector<Rgb>{centre, edge, kStartSky, kStartSky, shown, kBlack}));
     }
 }
 
