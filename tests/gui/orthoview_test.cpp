@@ -5,7 +5,6 @@
 #include "drawscene.h"
 #include "editorfixture.h"
 #include "oglgraphics.h"
-#include "orthocamera.h"
 #include "programstate.h"
 #include "viewsettings.h"
 
@@ -24,23 +23,23 @@ const Rgb kYellow{255, 255, 0};
 using Axis = std::array<int, 3>;
 using Point = std::array<double, 3>;
 
-// A camera as the user knows it: the side it looks from and the model axes that point to the
-// right of and up the screen.
+// A camera as the user knows it: its View menu entry, the side it looks from and the model axes
+// that point to the right of and up the screen.
 struct Camera {
     const char* name;
-    int32_t mode;
+    void (frm_main::*show)();
     Axis seenFrom;
     Axis right;
     Axis up;
 };
 
 const Camera kCameras[] = {
-    {"Left", kLeftView, {0, -1, 0}, {1, 0, 0}, {0, 0, 1}},
-    {"Top", kTopView, {0, 0, 1}, {1, 0, 0}, {0, 1, 0}},
-    {"Front", kFrontView, {-1, 0, 0}, {0, -1, 0}, {0, 0, 1}},
-    {"Underside", kUndersideView, {0, 0, -1}, {1, 0, 0}, {0, -1, 0}},
-    {"Right", kRightView, {0, 1, 0}, {-1, 0, 0}, {0, 0, 1}},
-    {"Back", kBackView, {1, 0, 0}, {0, 1, 0}, {0, 0, 1}},
+    {"Left", &frm_main::mnu_v_left_Click, {0, -1, 0}, {1, 0, 0}, {0, 0, 1}},
+    {"Top", &frm_main::mnu_v_top_Click, {0, 0, 1}, {1, 0, 0}, {0, 1, 0}},
+    {"Front", &frm_main::mnu_v_front_Click, {-1, 0, 0}, {0, -1, 0}, {0, 0, 1}},
+    {"Underside", &frm_main::mnu_v_underside_Click, {0, 0, -1}, {1, 0, 0}, {0, -1, 0}},
+    {"Right", &frm_main::mnu_v_right_Click, {0, 1, 0}, {-1, 0, 0}, {0, 0, 1}},
+    {"Back", &frm_main::mnu_v_back_Click, {1, 0, 0}, {0, 1, 0}, {0, 0, 1}},
 };
 
 int Dot(const Axis& axis, const Point& point) {
@@ -55,14 +54,6 @@ QPoint Expected(const Camera& camera, const QImage& frame, const Point& point) {
                 std::lround(frame.width() / 2.0 + Dot(camera.right, point) * pixelsPerUnit)),
             static_cast<int>(
                 std::lround(frame.height() / 2.0 - Dot(camera.up, point) * pixelsPerUnit))};
-}
-
-void ShowView(const Camera& camera) {
-    View().ViewMode = camera.mode;
-    float zoom = kStartZoom;
-    float x = 0.0f;
-    float y = 0.0f;
-    SetOrtho(zoom, x, y);
 }
 
 // A closed box of six squares around the origin, each stored clockwise as seen from outside.
@@ -97,7 +88,7 @@ TEST_F(EditorTest, EachOrthographicViewShowsTheModelFromItsSide) {
     hardpoints[3].Z = kMarkerDistance;
 
     for (const Camera& camera : kCameras) {
-        ShowView(camera);
+        (Window().*camera.show)();
         const QImage frame = ReadFrame();
         for (int axis = 0; axis < 3; ++axis) {
             Point marker{};
@@ -150,7 +141,7 @@ TEST_F(EditorTest, EachDrawingCoversTheBoxInItsOwnViewAndSpanZeroFoldsTwo) {
                 }
             }
             const Camera& camera = kCameras[view];
-            ShowView(camera);
+            (Window().*camera.show)();
             const QImage frame = ReadFrame();
             for (const auto& [at, expected] : points) {
                 const QPoint pixel = Expected(camera, frame, at);
@@ -165,7 +156,7 @@ TEST_F(EditorTest, EachDrawingCoversTheBoxInItsOwnViewAndSpanZeroFoldsTwo) {
     // drawing at all.
     InstallFamily({Cube(10, StripTexture({kYellow})).record});
     const Camera& top = kCameras[kTopView];
-    ShowView(top);
+    (Window().*top.show)();
     for (const bool picking : {false, true}) {
         CurrentModel().RenderType = picking;
         const QImage frame = ReadFrame();
