@@ -32,6 +32,10 @@ protected:
         EditorTest::SetUp();
         host.windowSide = nullptr;
         SetHost(&host);
+        // A file of one node at the origin, for the tests that need no more.
+        TestFile file;
+        file.AddNode(0, 0, 0);
+        InstallFamily({file.record});
     }
     void TearDown() override {
         SetHost(&windowHost);
@@ -132,9 +136,6 @@ TEST_F(ViewInputTest, ClickSelectsByTabAndRanksByDepth) {
 }
 
 TEST_F(ViewInputTest, MoveToolPressChoosesAxisAndDragMovesNode) {
-    TestFile file;
-    file.AddNode(0, 0, 0);
-    InstallFamily({file.record});
     Window().SelectTab(kNodesTab);
     Window().mnu_m_move_Click();
     Window().mnu_m_a_y_Click();
@@ -180,9 +181,6 @@ TEST_F(ViewInputTest, MoveToolPressChoosesAxisAndDragMovesNode) {
 }
 
 TEST_F(ViewInputTest, WheelAndKeysChangeCameraTabAndStates) {
-    TestFile file;
-    file.AddNode(0, 0, 0);
-    InstallFamily({file.record});
     Window().activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
     model& current = CurrentModel();
