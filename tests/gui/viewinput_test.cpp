@@ -13,8 +13,8 @@
 #include <QWheelEvent>
 
 #include <array>
-#include <map>
 #include <optional>
+#include <tuple>
 
 namespace {
 
@@ -222,15 +222,14 @@ TEST_F(ViewInputTest, WheelAndKeysChangeCameraTabAndStates) {
     EXPECT_EQ(View().CurrentTab, kNodesTab);
 
     // Each state key steps its button through its states.
-    const std::pair<Qt::Key, const char*> states[] = {
-        {Qt::Key_C, "PilotDead"}, {Qt::Key_C, "PilotBailed"}, {Qt::Key_C, "PilotAlive"},
-        {Qt::Key_G, "LGUp"},      {Qt::Key_G, "LGDown"},      {Qt::Key_D, "WingDam"},
-        {Qt::Key_D, "WingOK"}};
-    const std::map<Qt::Key, const char*> buttons{
-        {Qt::Key_C, "Pilot"}, {Qt::Key_G, "LG"}, {Qt::Key_D, "Wing"}};
-    for (const auto& [key, image] : states) {
+    const std::tuple<Qt::Key, const char*, const char*> states[] = {
+        {Qt::Key_C, "Pilot", "PilotDead"},  {Qt::Key_C, "Pilot", "PilotBailed"},
+        {Qt::Key_C, "Pilot", "PilotAlive"}, {Qt::Key_G, "LG", "LGUp"},
+        {Qt::Key_G, "LG", "LGDown"},        {Qt::Key_D, "Wing", "WingDam"},
+        {Qt::Key_D, "Wing", "WingOK"}};
+    for (const auto& [key, button, image] : states) {
         QTest::keyClick(&Surface(), key);
-        EXPECT_EQ(Window().Button(buttons.at(key))->property("image").toString(), image);
+        EXPECT_EQ(Window().Button(button)->property("image").toString(), image);
     }
     EXPECT_EQ(current.m_pilot * 100 + current.m_lg * 10 + current.m_wing, 10);
 }
