@@ -22,21 +22,19 @@ namespace {
 
 using Bytes = std::vector<uint8_t>;
 
-struct GLPicture {
-    int width = 0;
-    int height = 0;
-    Bytes rgb; // rows bottom-up, as GL keeps them
-};
+// A texture's width, height and rows, bottom-up as GL keeps them.
+using GLPicture = std::tuple<int, int, Bytes>;
 
 GLPicture ReadTexture(int32_t name) {
-    GLPicture picture;
+    GLint width = 0;
+    GLint height = 0;
     glBindTexture(GL_TEXTURE_2D, static_cast<GLuint>(name));
-    glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, GL_TEXTURE_WIDTH, &picture.width);
-    glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, GL_TEXTURE_HEIGHT, &picture.height);
-    picture.rgb.resize(static_cast<std::size_t>(picture.width * picture.height * 3));
+    glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, GL_TEXTURE_WIDTH, &width);
+    glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, GL_TEXTURE_HEIGHT, &height);
+    Bytes rgb(static_cast<std::size_t>(width * height * 3));
     glPixelStorei(GL_PACK_ALIGNMENT, 1);
-    glGetTexImage(GL_TEXTURE_2D, 0, GL_RGB, GL_UNSIGNED_BYTE, picture.rgb.data());
-    return picture;
+    glGetTexImage(GL_TEXTURE_2D, 0, GL_RGB, GL_UNSIGNED_BYTE, rgb.data());
+    return {width, height, rgb};
 }
 
 Bytes BottomUp(const PcxImage& picture) {
@@ -73,19 +71,17 @@ TEST_F(EditorTest,
         // The picture stays in the store for the texture window.
         EXPECT_EQ(Texture(2)->HasPicture() ? Texture(2)->Pixels() : Bytes{},
                   decoded ? decoded->rgb : Bytes{});
-        const GLPicture texture = ReadTexture(name);
         const GLPicture expected =
             decoded ? GLPicture{decoded->width, decoded->height, BottomUp(*decoded)}
                     : GLPicture{1, 1, {255, 255, 255}};
-        EXPECT_EQ(std::tie(texture.width, texture.height, texture.rgb),
-                  std::tie(expected.width, expected.height, expected.rgb));
+        EXPECT_EQ(ReadTexture(name), expected);
         GLint alignment = 0;
         glGetIntegerv(GL_UNPACK_ALIGNMENT, &alignment);
         EXPECT_EQ(alignment, 4);
     }
     // Every load has its own name; the earlier ones are kept.
     EXPECT_NE(names[0], names[2]);
-    EXPECT_EQ(ReadTexture(names[0]).rgb, ReadTexture(names[2]).rgb);
+    EXPECT_EQ(ReadTexture(names[0]), ReadTexture(names[2]));
     EXPECT_EQ(host.messages,
               std::vector<std::string>{"Sorry, can't load " + folder.file("deep.pcx") + "!"});
     int32_t name = 0;
@@ -113,8 +109,8 @@ TEST_F(EditorTest,
     FlushPendingTextures(aircraft);
     EXPECT_FALSE(HasPendingTextures());
     ASSERT_NE(aircraft.Files[1].TextureID, 0);
-    EXPECT_EQ(ReadTexture(aircraft.Files[1].TextureID).rgb, ReadTexture(names[1]).rgb);
-    EXPECT_EQ(ReadTexture(project.TopImage).rgb, ReadTexture(names[0]).rgb);
-    EXPECT_EQ(ReadTexture(project.LeftImage).rgb, ReadTexture(names[1]).rgb);
+    EXPECT_EQ(ReadTexture(aircraft.Files[1].TextureID), ReadTexture(names[1]));
+    EXPECT_EQ(ReadTexture(project.TopImage), ReadTexture(names[0]));
+    EXPECT_EQ(ReadTexture(project.LeftImage), ReadTexture(names[1]));
     EXPECT_EQ(aircraft.Files[kThreeViewSlot].TextureID, 0);
 }

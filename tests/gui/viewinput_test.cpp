@@ -10,6 +10,7 @@
 
 #include <QAction>
 #include <QTest>
+#include <QVector3D>
 #include <QWheelEvent>
 
 #include <array>
@@ -21,10 +22,6 @@ namespace {
 constexpr uint8_t kPilotDead = 2;
 constexpr int kUntouched = 77;
 constexpr int kNotch = 120;
-
-struct Point3 {
-    double x, y, z;
-};
 
 class ViewInputTest : public EditorTest {
 protected:
@@ -44,12 +41,12 @@ protected:
 
     // Where a model point lands in a frame painted now; a corner of the view for the sky. A tab
     // switch lays the panes out again, and the GL surface takes its new size a little later.
-    QPoint PixelOf(const std::optional<Point3>& at) {
+    QPoint PixelOf(const std::optional<QVector3D>& at) {
         EXPECT_TRUE(
             QTest::qWaitFor([this] { return Surface().size() == Window().pic_render->size(); }));
         EXPECT_TRUE(OGL().MakeCurrent());
         OGL().RenderFrame();
-        return at ? OnScreen(at->x, at->y, at->z) : QPoint(3, 3);
+        return at ? OnScreen(at->x(), at->y(), at->z()) : QPoint(3, 3);
     }
     int Spin(const char* name) { return host.spins.count(name) ? host.spins[name] : 0; }
 };
@@ -83,22 +80,22 @@ TEST_F(ViewInputTest, ClickSelectsByTabAndRanksByDepth) {
     struct Row {
         const char* what;
         int tab;
-        std::optional<Point3> at;
+        std::optional<QVector3D> at;
         int elem;  // m_currelem afterwards
         int node;  // m_currnode afterwards
         int spins; // upd_3_elem * 100 + upd_3_pb, or upd_4_node; kUntouched after a miss
     };
     const Row rows[] = {
-        {"nearer of two overlapping polygons", 3, Point3{-25, -20, 0}, 100, 0, 100},
-        {"equal depths keep the first painted", 3, Point3{30, 0, 0}, 200, 0, 200},
-        {"second piggyback of an element", 3, Point3{30, 0, 30}, 301, 0, 301},
-        {"polygon hidden by the pilot state", 3, Point3{0, 0, 30}, -1, -1, kUntouched},
-        {"connected file, under the name each file starts with", 3, Point3{30, 0, -30}, 0, 0, 0},
-        {"file that is not loaded", 3, Point3{-30, 0, 30}, -1, -1, kUntouched},
+        {"nearer of two overlapping polygons", 3, QVector3D{-25, -20, 0}, 100, 0, 100},
+        {"equal depths keep the first painted", 3, QVector3D{30, 0, 0}, 200, 0, 200},
+        {"second piggyback of an element", 3, QVector3D{30, 0, 30}, 301, 0, 301},
+        {"polygon hidden by the pilot state", 3, QVector3D{0, 0, 30}, -1, -1, kUntouched},
+        {"connected file, under the name each file starts with", 3, QVector3D{30, 0, -30}, 0, 0, 0},
+        {"file that is not loaded", 3, QVector3D{-30, 0, 30}, -1, -1, kUntouched},
         {"sky in the Elements tab", 3, std::nullopt, -1, -1, kUntouched},
-        {"lower of two nodes, the farther", 4, Point3{0, 0, 0}, 0, 0, 0},
+        {"lower of two nodes, the farther", 4, QVector3D{0, 0, 0}, 0, 0, 0},
         // Outside the Move tool the axis lines carry no name of their own.
-        {"axis line, under the last node's name", 4, Point3{6, 40, 0}, 0, 25, 25},
+        {"axis line, under the last node's name", 4, QVector3D{6, 40, 0}, 0, 25, 25},
         {"sky in the Nodes tab", 4, std::nullopt, -1, -1, kUntouched},
     };
     FileRecord unloaded = ConnectedSquare();
@@ -143,11 +140,11 @@ TEST_F(ViewInputTest, MoveToolPressChoosesAxisAndDragMovesNode) {
 
     // A press on an axis line chooses it, with its menu entry and button; beside them nothing.
     const struct {
-        std::optional<Point3> at;
+        std::optional<QVector3D> at;
         int32_t axis;
         const char* button;
-    } presses[] = {{Point3{7, 0, 0}, kAxisX, "X"},
-                   {Point3{0, 0, 7}, kAxisZ, "Z"},
+    } presses[] = {{QVector3D{7, 0, 0}, kAxisX, "X"},
+                   {QVector3D{0, 0, 7}, kAxisZ, "Z"},
                    {std::nullopt, kAxisZ, "Z"}};
     for (const auto& press : presses) {
         QTest::mouseClick(&Surface(), Qt::LeftButton, {}, PixelOf(press.at));
