@@ -77,16 +77,6 @@ Piggyback Polygon(uint8_t type, const std::vector<uint8_t>& nodes, uint8_t cod, 
     return item;
 }
 
-Piggyback HardpointAt(uint8_t node, uint8_t cod, uint8_t flag) {
-    Piggyback item;
-    item.Type = 2;
-    item.COD = cod;
-    item.Flag = flag;
-    item.CRN = 1;
-    item.NodeList = {node, 0};
-    return item;
-}
-
 void InstallFamily(std::vector<FileRecord> files) {
     model& current = CurrentModel();
     current.Files.assign(kFileSlots, FileRecord{});

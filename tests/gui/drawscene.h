@@ -38,10 +38,10 @@ inline const Rgb kRed{255, 0, 0};
 inline const Rgb kGreen{0, 255, 0};
 inline const Rgb kBlue{0, 0, 255};
 
-// A polygon of `type` over these nodes, its map spanning the whole texture.
+// A piggyback of `type` over these nodes, a polygon's map spanning the whole texture; of type
+// kTypeHardpoint over one node, a hardpoint.
 Piggyback Polygon(uint8_t type, const std::vector<uint8_t>& nodes, uint8_t cod = 0,
                   uint8_t flag = 0);
-Piggyback HardpointAt(uint8_t node, uint8_t cod = 0, uint8_t flag = 0);
 
 // Puts the files into the open model's slots (the first is the main file), marks the model as a
 // loaded .mox family and moves the camera of a fresh model 100 units in front of the origin,

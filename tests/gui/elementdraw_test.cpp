@@ -3,6 +3,7 @@
 #include "currentmodel.h"
 #include "drawscene.h"
 #include "editorfixture.h"
+#include "elementkind.h"
 #include "moxdraw.h"
 #include "oglgraphics.h"
 #include "programstate.h"
@@ -18,18 +19,11 @@ namespace {
 
 constexpr int kColourTolerance = 6;
 
-bool Near(const Rgb& a, const Rgb& b) {
-    return Near(a, b, kColourTolerance);
-}
-
-Rgb At(const QImage& frame, const QPoint& point) {
-    return PixelAt(frame, point.x(), point.y());
-}
-
 // The colour at the model point (x, 0, z), read as `expected` when it lies near enough to it.
 Rgb Seen(const QImage& frame, double x, double z, const Rgb& expected) {
-    const Rgb seen = At(frame, OnScreen(x, 0, z));
-    return Near(seen, expected) ? expected : seen;
+    const QPoint at = OnScreen(x, 0, z);
+    const Rgb seen = PixelAt(frame, at.x(), at.y());
+    return Near(seen, expected, kColourTolerance) ? expected : seen;
 }
 
 const Rgb kOrange{255, 128, 38};
@@ -38,7 +32,8 @@ const Rgb kOrange{255, 128, 38};
 int RunThrough(const QImage& frame, const QPoint& centre, bool alongRow = true) {
     const QPoint step = alongRow ? QPoint(1, 0) : QPoint(0, 1);
     const auto notSky = [&](const QPoint& at) {
-        return frame.rect().contains(at) && !Near(At(frame, at), kStartSky);
+        return frame.rect().contains(at) &&
+               !Near(PixelAt(frame, at.x(), at.y()), kStartSky, kColourTolerance);
     };
     int run = 1;
     for (QPoint at = centre - step; notSky(at); at -= step)
@@ -50,7 +45,7 @@ int RunThrough(const QImage& frame, const QPoint& centre, bool alongRow = true) 
 
 } // namespace
 
-TEST_F(EditorTest, AFileWithoutElementsPaintsItsNodesSizedByTheLineWeight) {
+TEST_F(EditorTest, NodesAreSizedByTheLineWeightAndTheSelectedOneHasAxisLinesTenUnitsLong) {
     TestFile file;
     file.AddNode(-20, 0, 0);
     file.AddNode(20, 0, 0);
@@ -71,24 +66,32 @@ TEST_F(EditorTest, AFileWithoutElementsPaintsItsNodesSizedByTheLineWeight) {
     const QImage empty = ReadFrame();
     EXPECT_EQ(Seen(empty, -20, 0, kStartSky), kStartSky);
     EXPECT_EQ(Seen(empty, 20, 0, kStartSky), kStartSky);
-}
 
-TEST_F(EditorTest, StateCodesHidePolygonsButNotHardpoints) {
-    TestFile file;
-    const auto face = file.AddSquare(-20, 0, 8);
-    const uint8_t point = file.AddNode(20, 0, 0);
-    file.AddElement({Polygon(kTextured, face, kCodePilot, 2), HardpointAt(point, kCodePilot, 1)});
-    InstallFamily({file.record});
+    // In the Nodes tab the selected node carries its axis lines.
+    View().CurrentTab = kNodesTab;
+    for (float zoom : {-100.0f, -300.0f}) {
+        CurrentModel().m_zoom = zoom;
+        const QImage axes = ReadFrame();
+        EXPECT_EQ((std::vector<Rgb>{Seen(axes, 29.5, 0, kRed), Seen(axes, 30.5, 0, kStartSky),
+                                    Seen(axes, 20, 9.5, kBlue), Seen(axes, 20, 10.5, kStartSky)}),
+                  (std::vector<Rgb>{kRed, kStartSky, kBlue, kStartSky}))
+            << "zoom " << zoom;
+    }
+    // The X line is ticked, so it is 2 pixels wider than the line weight; Z is not.
+    CurrentModel().m_zoom = -100.0f;
+    const QImage axes = ReadFrame();
+    EXPECT_EQ(RunThrough(axes, OnScreen(25, 0, 0), false), 5);
+    EXPECT_EQ(RunThrough(axes, OnScreen(20, 0, 5)), 3);
 
-    for (int pilot : {0, 1, 2}) {
-        CurrentModel().m_pilot = pilot;
-        const QImage frame = ReadFrame();
-        EXPECT_EQ(Seen(frame, -20, 0, kWhite) == kWhite, pilot == 2) << "pilot " << pilot;
-        EXPECT_EQ(Seen(frame, 20, 0, kBlack), kBlack) << "pilot " << pilot;
+    // The depth test goes off once when the rendering sequence is turned on, and on again.
+    for (const bool sequence : {true, false}) {
+        View().mnu_v_rs = sequence;
+        ReadFrame();
+        EXPECT_EQ(glIsEnabled(GL_DEPTH_TEST) == GL_TRUE, !sequence);
     }
 }
 
-TEST_F(EditorTest, OutlinesSelectionAndCulling) {
+TEST_F(EditorTest, OutlinesSelectionStateCodesAndCulling) {
     ASSERT_TRUE(OGL().MakeCurrent());
     TestFile file;
     file.record.TextureID = StripTexture({{200, 160, 40}});
@@ -97,62 +100,36 @@ TEST_F(EditorTest, OutlinesSelectionAndCulling) {
     const auto line = file.AddSquare(0, 25, 5);
     file.AddElement({Polygon(kTextured, front), Polygon(kTextured, back),
                      Polygon(1, {line[0], line[2]}), Polygon(kTypeNull, {})});
+    // A square shown in the third pilot state only; the hardpoint's state code hides nothing.
+    file.AddElement({Polygon(kTextured, file.AddSquare(0, -25, 5), kCodePilot, 2),
+                     Polygon(kTypeHardpoint, {file.AddNode(20, 0, -25)}, kCodePilot, 1)});
     InstallFamily({file.record});
     Program().LineWeight = 3;
     const Rgb texture{200, 160, 40};
 
-    // After each change: the front face's centre and edge, the back face's centre, the line.
-    const std::tuple<std::function<void()>, Rgb, Rgb> steps[] = {
+    // After each change: the front face's centre and edge, the back face's centre, the line, the
+    // pilot-state square, the hardpoint.
+    const std::tuple<std::function<void()>, Rgb, Rgb, Rgb> steps[] = {
         // The line and the NULL entry paint nothing, and the back face is culled.
-        {[] {}, texture, texture},
+        {[] {}, texture, texture, kStartSky},
+        {[] { CurrentModel().m_pilot = 1; }, texture, texture, kStartSky},
+        {[] { CurrentModel().m_pilot = 2; }, texture, texture, texture},
         // Face outlines paint the front face's edges in white over the texture.
-        {[] { View().mnu_v_faces = true; }, texture, kWhite},
+        {[] { View().mnu_v_faces = true; }, texture, kWhite, texture},
         // The selected piggyback is red-tinted over its texture and solid red in line view, its
         // edges red.
-        {[] { CurrentModel().m_currelem = 0; }, {200, 0, 0}, kRed},
-        {[] { View().mnu_v_texture = false; }, kRed, kRed},
+        {[] { CurrentModel().m_currelem = 0; }, {200, 0, 0}, kRed, texture},
+        {[] { View().mnu_v_texture = false; }, kRed, kRed, kStartSky},
         // In another file's selection it is only an outline in the line colour.
-        {[] { CurrentModel().m_currmox = 1; }, kStartSky, kWhite}};
-    for (const auto& [change, centre, edge] : steps) {
+        {[] { CurrentModel().m_currmox = 1; }, kStartSky, kWhite, kStartSky}};
+    for (const auto& [change, centre, edge, shown] : steps) {
         change();
         const QImage frame = ReadFrame();
         EXPECT_EQ((std::vector<Rgb>{Seen(frame, -20, 0, centre), Seen(frame, -30, 0, edge),
-                                    Seen(frame, 20, 0, kStartSky), Seen(frame, 0, 25, kStartSky)}),
-                  (std::vector<Rgb>{centre, edge, kStartSky, kStartSky}));
+                                    Seen(frame, 20, 0, kStartSky), Seen(frame, 0, 25, kStartSky),
+                                    Seen(frame, 0, -25, shown), Seen(frame, 20, -25, kBlack)}),
+                  (std::vector<Rgb>{centre, edge, kStartSky, kStartSky, shown, kBlack}));
     }
-}
-
-TEST_F(EditorTest, AxisLinesAreTenUnitsLongAtEveryZoom) {
-    TestFile file;
-    file.AddNode(-5, 0, -5);
-    InstallFamily({file.record});
-    View().CurrentTab = kNodesTab;
-    CurrentModel().m_currnode = 0;
-    Program().LineWeight = 3;
-
-    for (float zoom : {-100.0f, -300.0f}) {
-        CurrentModel().m_zoom = zoom;
-        const QImage frame = ReadFrame();
-        EXPECT_EQ((std::vector<Rgb>{Seen(frame, 4.5, -5, kRed), Seen(frame, 5.5, -5, kStartSky),
-                                    Seen(frame, -5, 4.5, kBlue), Seen(frame, -5, 5.5, kStartSky)}),
-                  (std::vector<Rgb>{kRed, kStartSky, kBlue, kStartSky}))
-            << "zoom " << zoom;
-    }
-    // The X line is ticked, so it is 2 pixels wider than the line weight; Z is not.
-    CurrentModel().m_zoom = -100.0f;
-    const QImage frame = ReadFrame();
-    EXPECT_EQ(RunThrough(frame, OnScreen(0, 0, -5), false), 5);
-    EXPECT_EQ(RunThrough(frame, OnScreen(-5, 0, 0)), 3);
-
-    // The depth test goes off once when the rendering sequence is turned on, and on again.
-    View().mnu_v_rs = true;
-    ReadFrame();
-    EXPECT_TRUE(SequenceOn());
-    EXPECT_FALSE(glIsEnabled(GL_DEPTH_TEST));
-    View().mnu_v_rs = false;
-    ReadFrame();
-    EXPECT_FALSE(SequenceOn());
-    EXPECT_TRUE(glIsEnabled(GL_DEPTH_TEST));
 }
 
 TEST_F(EditorTest, BrokenPiggybacksAreAbandonedAndLaterOnesStillPaint) {
@@ -168,7 +145,7 @@ TEST_F(EditorTest, BrokenPiggybacksAreAbandonedAndLaterOnesStillPaint) {
     auto noSuchPart = file.AddSquare(-20, -20, 5);
     noSuchPart.back() = file.AddNode(0, 0, 0, 7);
     file.AddElement({Polygon(kTextured, beyondNodes), Polygon(kTextured, overflow),
-                     Polygon(kTextured, noSuchPart), HardpointAt(200)});
+                     Polygon(kTextured, noSuchPart), Polygon(kTypeHardpoint, {200})});
     file.AddElement({Polygon(kTextured, file.AddSquare(20, 0, 5))});
     // Counts beyond the arrays they count.
     file.AddElement({Polygon(kTextured, file.AddSquare(20, 20, 5))});

@@ -5,12 +5,13 @@
 #include "drawscene.h"
 #include "editorfixture.h"
 #include "oglgraphics.h"
-#include "orthocamera.h"
 #include "programstate.h"
 #include "viewsettings.h"
 
 #include <array>
 #include <cmath>
+#include <iterator>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -20,46 +21,39 @@ constexpr int16_t kMarkerDistance = 40;
 const Rgb kYellow{255, 255, 0};
 
 using Axis = std::array<int, 3>;
+using Point = std::array<double, 3>;
 
-// A camera as the user knows it: the side it looks from and the model axes that point to the
-// right of and up the screen.
+// A camera as the user knows it: its View menu entry, the side it looks from and the model axes
+// that point to the right of and up the screen.
 struct Camera {
     const char* name;
-    int32_t mode;
+    void (frm_main::*show)();
     Axis seenFrom;
     Axis right;
     Axis up;
 };
 
 const Camera kCameras[] = {
-    {"Left", kLeftView, {0, -1, 0}, {1, 0, 0}, {0, 0, 1}},
-    {"Top", kTopView, {0, 0, 1}, {1, 0, 0}, {0, 1, 0}},
-    {"Front", kFrontView, {-1, 0, 0}, {0, -1, 0}, {0, 0, 1}},
-    {"Underside", kUndersideView, {0, 0, -1}, {1, 0, 0}, {0, -1, 0}},
-    {"Right", kRightView, {0, 1, 0}, {-1, 0, 0}, {0, 0, 1}},
-    {"Back", kBackView, {1, 0, 0}, {0, 1, 0}, {0, 0, 1}},
+    {"Left", &frm_main::mnu_v_left_Click, {0, -1, 0}, {1, 0, 0}, {0, 0, 1}},
+    {"Top", &frm_main::mnu_v_top_Click, {0, 0, 1}, {1, 0, 0}, {0, 1, 0}},
+    {"Front", &frm_main::mnu_v_front_Click, {-1, 0, 0}, {0, -1, 0}, {0, 0, 1}},
+    {"Underside", &frm_main::mnu_v_underside_Click, {0, 0, -1}, {1, 0, 0}, {0, -1, 0}},
+    {"Right", &frm_main::mnu_v_right_Click, {0, 1, 0}, {-1, 0, 0}, {0, 0, 1}},
+    {"Back", &frm_main::mnu_v_back_Click, {1, 0, 0}, {0, 1, 0}, {0, 0, 1}},
 };
 
-int Dot(const Axis& axis, const std::array<double, 3>& point) {
+int Dot(const Axis& axis, const Point& point) {
     return static_cast<int>(axis[0] * point[0] + axis[1] * point[1] + axis[2] * point[2]);
 }
 
 // Where a model point lands in a frame of `camera` at the start zoom: the view is 250 units high
 // and centred on the origin.
-QPoint Expected(const Camera& camera, const QImage& frame, std::array<double, 3> point) {
+QPoint Expected(const Camera& camera, const QImage& frame, const Point& point) {
     const double pixelsPerUnit = frame.height() / (2.0 * kStartZoom);
     return {static_cast<int>(
                 std::lround(frame.width() / 2.0 + Dot(camera.right, point) * pixelsPerUnit)),
             static_cast<int>(
                 std::lround(frame.height() / 2.0 - Dot(camera.up, point) * pixelsPerUnit))};
-}
-
-void ShowView(const Camera& camera) {
-    View().ViewMode = camera.mode;
-    float zoom = kStartZoom;
-    float x = 0.0f;
-    float y = 0.0f;
-    SetOrtho(zoom, x, y);
 }
 
 // A closed box of six squares around the origin, each stored clockwise as seen from outside.
@@ -94,10 +88,10 @@ TEST_F(EditorTest, EachOrthographicViewShowsTheModelFromItsSide) {
     hardpoints[3].Z = kMarkerDistance;
 
     for (const Camera& camera : kCameras) {
-        ShowView(camera);
+        (Window().*camera.show)();
         const QImage frame = ReadFrame();
         for (int axis = 0; axis < 3; ++axis) {
-            std::array<double, 3> marker{};
+            Point marker{};
             marker[static_cast<size_t>(axis)] = kMarkerDistance;
             const QPoint at = Expected(camera, frame, marker);
             // A marker on the line of sight stands in front of the white cube when it lies on
@@ -121,57 +115,39 @@ TEST_F(EditorTest, EachDrawingCoversTheBoxInItsOwnViewAndSpanZeroFoldsTwo) {
     project.Height = 60;
     project.TopLeftX = -50;
     project.TopLeftZ = 30;
-    // Drawings by view: Left, Top, Front, Underside, Right, Back.
-    const std::pair<int16_t, std::array<Rgb, 6>> rows[] = {
-        {80, {kBlue, kRed, kGreen, kStartSky, kStartSky, kStartSky}},
-        // The Top and Front drawings fold to a line; the Left one stays.
-        {0, {kBlue, kStartSky, kStartSky, kStartSky, kStartSky, kStartSky}},
-    };
-    for (const auto& [span, seen] : rows) {
+    // The face of the box each view shows, by view: Left, Top, Front, Underside, Right, Back;
+    // the last three show no drawing.
+    const std::pair<Point, Point> faces[std::size(kCameras)] = {
+        {{-50, 0, -30}, {50, 0, 30}}, {{-50, -40, 0}, {50, 40, 0}}, {{0, -40, -30}, {0, 40, 30}}};
+    const Rgb drawings[] = {kBlue, kRed, kGreen, kStartSky, kStartSky, kStartSky};
+    for (const int16_t span : {int16_t{0}, int16_t{80}}) {
         project.Span = span;
         project.TopLeftY = static_cast<int16_t>(-span / 2);
-        for (size_t view = 0; view < seen.size(); ++view) {
-            ShowView(kCameras[view]);
-            const QImage frame = ReadFrame();
-            EXPECT_EQ(PixelAt(frame, frame.width() / 2, frame.height() / 2), seen[view])
-                << kCameras[view].name << " view, span " << span;
-        }
-    }
-
-    // Each drawing covers the face of the box its view shows: just inside two opposite corners
-    // the drawing, just outside them the sky.
-    project.Span = 80;
-    project.TopLeftY = -40;
-    struct Face {
-        int32_t mode;
-        std::array<double, 3> low, high;
-        Rgb colour;
-    };
-    const Face faces[] = {{kTopView, {-50, -40, 0}, {50, 40, 0}, kRed},
-                          {kLeftView, {-50, 0, -30}, {50, 0, 30}, kBlue},
-                          {kFrontView, {0, -40, -30}, {0, 40, 30}, kGreen}};
-    for (const Face& face : faces) {
-        const Camera& camera = kCameras[face.mode];
-        ShowView(camera);
-        const QImage frame = ReadFrame();
-        for (const auto& [corner, inward] :
-             {std::pair{face.low, 1.0}, std::pair{face.high, -1.0}}) {
-            // Just inside the corner, then just outside it across each edge in turn.
-            std::array<double, 3> inside = corner;
-            for (size_t axis = 0; axis < 3; ++axis)
-                inside[axis] += face.low[axis] != face.high[axis] ? inward * 2 : 0.0;
-            std::vector<std::pair<std::array<double, 3>, Rgb>> points{{inside, face.colour}};
-            for (size_t axis = 0; axis < 3; ++axis) {
-                if (face.low[axis] == face.high[axis])
-                    continue;
-                std::array<double, 3> outside = inside;
-                outside[axis] = corner[axis] - inward * 3;
-                points.emplace_back(outside, kStartSky);
+        for (size_t view = 0; view < std::size(faces); ++view) {
+            const auto& [low, high] = faces[view];
+            // A face as wide as the span folds to a line with it.
+            const Rgb colour = span == 0 && low[1] != high[1] ? kStartSky : drawings[view];
+            // The drawing at the centre and just inside each edge, the sky just outside it.
+            std::vector<std::pair<Point, Rgb>> points{{Point{}, colour}};
+            for (size_t axis = 0; span != 0 && axis < 3; ++axis) {
+                for (const auto& [edge, inward] : {std::pair{low[axis], 1.0}, {high[axis], -1.0}}) {
+                    if (low[axis] == high[axis])
+                        continue;
+                    Point inside{};
+                    Point outside{};
+                    inside[axis] = edge + inward * 2;
+                    outside[axis] = edge - inward * 3;
+                    points.insert(points.end(), {{inside, colour}, {outside, kStartSky}});
+                }
             }
-            for (const auto& [at, colour] : points) {
+            const Camera& camera = kCameras[view];
+            (Window().*camera.show)();
+            const QImage frame = ReadFrame();
+            for (const auto& [at, expected] : points) {
                 const QPoint pixel = Expected(camera, frame, at);
-                EXPECT_EQ(PixelAt(frame, pixel.x(), pixel.y()), colour)
-                    << camera.name << " view at " << at[0] << "," << at[1] << "," << at[2];
+                EXPECT_EQ(PixelAt(frame, pixel.x(), pixel.y()), expected)
+                    << camera.name << " view, span " << span << ", at " << at[0] << "," << at[1]
+                    << "," << at[2];
             }
         }
     }
@@ -180,7 +156,7 @@ TEST_F(EditorTest, EachDrawingCoversTheBoxInItsOwnViewAndSpanZeroFoldsTwo) {
     // drawing at all.
     InstallFamily({Cube(10, StripTexture({kYellow})).record});
     const Camera& top = kCameras[kTopView];
-    ShowView(top);
+    (Window().*top.show)();
     for (const bool picking : {false, true}) {
         CurrentModel().RenderType = picking;
         const QImage frame = ReadFrame();

@@ -10,11 +10,12 @@
 
 #include <QAction>
 #include <QTest>
+#include <QVector3D>
 #include <QWheelEvent>
 
 #include <array>
-#include <map>
 #include <optional>
+#include <tuple>
 
 namespace {
 
@@ -22,16 +23,16 @@ constexpr uint8_t kPilotDead = 2;
 constexpr int kUntouched = 77;
 constexpr int kNotch = 120;
 
-struct Point3 {
-    double x, y, z;
-};
-
 class ViewInputTest : public EditorTest {
 protected:
     void SetUp() override {
         EditorTest::SetUp();
         host.windowSide = nullptr;
         SetHost(&host);
+        // A file of one node at the origin, for the tests that need no more.
+        TestFile file;
+        file.AddNode(0, 0, 0);
+        InstallFamily({file.record});
     }
     void TearDown() override {
         SetHost(&windowHost);
@@ -40,19 +41,19 @@ protected:
 
     // Where a model point lands in a frame painted now; a corner of the view for the sky. A tab
     // switch lays the panes out again, and the GL surface takes its new size a little later.
-    QPoint PixelOf(const std::optional<Point3>& at) {
+    QPoint PixelOf(const std::optional<QVector3D>& at) {
         EXPECT_TRUE(
             QTest::qWaitFor([this] { return Surface().size() == Window().pic_render->size(); }));
         EXPECT_TRUE(OGL().MakeCurrent());
         OGL().RenderFrame();
-        return at ? OnScreen(at->x, at->y, at->z) : QPoint(3, 3);
+        return at ? OnScreen(at->x(), at->y(), at->z()) : QPoint(3, 3);
     }
     int Spin(const char* name) { return host.spins.count(name) ? host.spins[name] : 0; }
 };
 
 // Two nodes on the line of sight at the centre, the farther one first; overlapping squares at two
-// depths; two equal squares in one element; a state-hidden square beside a visible one; a back
-// face; a line.
+// depths; two equal squares in one element; a state-hidden square beside a visible one. What the
+// painters leave out (back faces, lines) the pick pass, which runs the same painters, misses too.
 FileRecord PickScene() {
     TestFile file;
     file.AddNode(0, 40, 0);
@@ -63,9 +64,6 @@ FileRecord PickScene() {
                      Polygon(kTextured, file.AddSquare(30, 0, 10))});
     file.AddElement({Polygon(kTextured, file.AddSquare(0, 30, 10), kCodePilot, kPilotDead),
                      Polygon(kTextured, file.AddSquare(30, 30, 10))});
-    file.AddElement({Polygon(kTextured, file.AddSquare(0, -30, 10, true))});
-    const auto line = file.AddSquare(-30, -30, 10);
-    file.AddElement({Polygon(1, {line[0], line[2]})});
     return file.record;
 }
 
@@ -82,24 +80,22 @@ TEST_F(ViewInputTest, ClickSelectsByTabAndRanksByDepth) {
     struct Row {
         const char* what;
         int tab;
-        std::optional<Point3> at;
+        std::optional<QVector3D> at;
         int elem;  // m_currelem afterwards
         int node;  // m_currnode afterwards
         int spins; // upd_3_elem * 100 + upd_3_pb, or upd_4_node; kUntouched after a miss
     };
     const Row rows[] = {
-        {"nearer of two overlapping polygons", 3, Point3{-25, -20, 0}, 100, 0, 100},
-        {"equal depths keep the first painted", 3, Point3{30, 0, 0}, 200, 0, 200},
-        {"second piggyback of an element", 3, Point3{30, 0, 30}, 301, 0, 301},
-        {"polygon hidden by the pilot state", 3, Point3{0, 0, 30}, -1, -1, kUntouched},
-        {"back face", 3, Point3{0, 0, -30}, -1, -1, kUntouched},
-        {"line", 3, Point3{-30, 0, -30}, -1, -1, kUntouched},
-        {"connected file, under the name each file starts with", 3, Point3{30, 0, -30}, 0, 0, 0},
-        {"file that is not loaded", 3, Point3{-30, 0, 30}, -1, -1, kUntouched},
+        {"nearer of two overlapping polygons", 3, QVector3D{-25, -20, 0}, 100, 0, 100},
+        {"equal depths keep the first painted", 3, QVector3D{30, 0, 0}, 200, 0, 200},
+        {"second piggyback of an element", 3, QVector3D{30, 0, 30}, 301, 0, 301},
+        {"polygon hidden by the pilot state", 3, QVector3D{0, 0, 30}, -1, -1, kUntouched},
+        {"connected file, under the name each file starts with", 3, QVector3D{30, 0, -30}, 0, 0, 0},
+        {"file that is not loaded", 3, QVector3D{-30, 0, 30}, -1, -1, kUntouched},
         {"sky in the Elements tab", 3, std::nullopt, -1, -1, kUntouched},
-        {"lower of two nodes, the farther", 4, Point3{0, 0, 0}, 0, 0, 0},
+        {"lower of two nodes, the farther", 4, QVector3D{0, 0, 0}, 0, 0, 0},
         // Outside the Move tool the axis lines carry no name of their own.
-        {"axis line, under the last node's name", 4, Point3{6, 40, 0}, 0, 33, 33},
+        {"axis line, under the last node's name", 4, QVector3D{6, 40, 0}, 0, 25, 25},
         {"sky in the Nodes tab", 4, std::nullopt, -1, -1, kUntouched},
     };
     FileRecord unloaded = ConnectedSquare();
@@ -137,9 +133,6 @@ TEST_F(ViewInputTest, ClickSelectsByTabAndRanksByDepth) {
 }
 
 TEST_F(ViewInputTest, MoveToolPressChoosesAxisAndDragMovesNode) {
-    TestFile file;
-    file.AddNode(0, 0, 0);
-    InstallFamily({file.record});
     Window().SelectTab(kNodesTab);
     Window().mnu_m_move_Click();
     Window().mnu_m_a_y_Click();
@@ -147,11 +140,11 @@ TEST_F(ViewInputTest, MoveToolPressChoosesAxisAndDragMovesNode) {
 
     // A press on an axis line chooses it, with its menu entry and button; beside them nothing.
     const struct {
-        std::optional<Point3> at;
+        std::optional<QVector3D> at;
         int32_t axis;
         const char* button;
-    } presses[] = {{Point3{7, 0, 0}, kAxisX, "X"},
-                   {Point3{0, 0, 7}, kAxisZ, "Z"},
+    } presses[] = {{QVector3D{7, 0, 0}, kAxisX, "X"},
+                   {QVector3D{0, 0, 7}, kAxisZ, "Z"},
                    {std::nullopt, kAxisZ, "Z"}};
     for (const auto& press : presses) {
         QTest::mouseClick(&Surface(), Qt::LeftButton, {}, PixelOf(press.at));
@@ -185,9 +178,6 @@ TEST_F(ViewInputTest, MoveToolPressChoosesAxisAndDragMovesNode) {
 }
 
 TEST_F(ViewInputTest, WheelAndKeysChangeCameraTabAndStates) {
-    TestFile file;
-    file.AddNode(0, 0, 0);
-    InstallFamily({file.record});
     Window().activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
     model& current = CurrentModel();
@@ -229,15 +219,14 @@ TEST_F(ViewInputTest, WheelAndKeysChangeCameraTabAndStates) {
     EXPECT_EQ(View().CurrentTab, kNodesTab);
 
     // Each state key steps its button through its states.
-    const std::pair<Qt::Key, const char*> states[] = {
-        {Qt::Key_C, "PilotDead"}, {Qt::Key_C, "PilotBailed"}, {Qt::Key_C, "PilotAlive"},
-        {Qt::Key_G, "LGUp"},      {Qt::Key_G, "LGDown"},      {Qt::Key_D, "WingDam"},
-        {Qt::Key_D, "WingOK"}};
-    const std::map<Qt::Key, const char*> buttons{
-        {Qt::Key_C, "Pilot"}, {Qt::Key_G, "LG"}, {Qt::Key_D, "Wing"}};
-    for (const auto& [key, image] : states) {
+    const std::tuple<Qt::Key, const char*, const char*> states[] = {
+        {Qt::Key_C, "Pilot", "PilotDead"},  {Qt::Key_C, "Pilot", "PilotBailed"},
+        {Qt::Key_C, "Pilot", "PilotAlive"}, {Qt::Key_G, "LG", "LGUp"},
+        {Qt::Key_G, "LG", "LGDown"},        {Qt::Key_D, "Wing", "WingDam"},
+        {Qt::Key_D, "Wing", "WingOK"}};
+    for (const auto& [key, button, image] : states) {
         QTest::keyClick(&Surface(), key);
-        EXPECT_EQ(Window().Button(buttons.at(key))->property("image").toString(), image);
+        EXPECT_EQ(Window().Button(button)->property("image").toString(), image);
     }
     EXPECT_EQ(current.m_pilot * 100 + current.m_lg * 10 + current.m_wing, 10);
 }
