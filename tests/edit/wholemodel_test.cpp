@@ -61,18 +61,3 @@ TEST(WholeModel, RescaleRoundsHalvesToEvenAndRefusesOverflowWhole) {
         EXPECT_EQ(host.messages, Shown(row.message));
     }
 }
-
-TEST(WholeModel, MoveAllNodesMovesEveryNodeOrNone) {
-    RecordingHost host;
-    model m = NodesAlongX({10, -20, 32000});
-    EXPECT_TRUE(MoveAllNodes(m, 30000, 700));
-    EXPECT_EQ(Xs(m), (std::vector<int16_t>{710, -20 + 700, 32700}));
-    EXPECT_FALSE(MoveAllNodes(m, 30000, 100));
-    EXPECT_EQ(Xs(m), (std::vector<int16_t>{710, 680, 32700}));
-    EXPECT_EQ(host.messages.back(), "Moving the model by 100 along X would take X of node 2 to "
-                                    "32800, beyond the range of a coordinate (-32768 to 32767). "
-                                    "Nothing was moved.");
-    EXPECT_TRUE(MoveAllNodes(m, 30000, -700));
-    EXPECT_EQ(Xs(m), (std::vector<int16_t>{10, -20, 32000})) << "the same step back restores";
-    EXPECT_FALSE(MoveAllNodes(m, 4, 100));
-}

@@ -65,6 +65,11 @@ TEST_F(CentreMoverTest, RunningTotalAndItsUndo) {
         EXPECT_EQ(NodeAt(0).X - first.X, c.movedX) << c.actions << ": every node moves";
         EXPECT_EQ(Text("txt_5_x").toInt(), c.spinX) << c.actions;
         EXPECT_EQ(host.messages.size(), c.messages) << c.actions;
+        if (!host.messages.empty()) {
+            EXPECT_EQ(host.messages[0], "Moving the model by 1 along X would take X of node 2 to "
+                                        "32768, beyond the range of a coordinate (-32768 to "
+                                        "32767). Nothing was moved.");
+        }
         host.messages.clear();
         Click("cmd_5_apply");
     }
