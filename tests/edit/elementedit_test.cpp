@@ -84,23 +84,6 @@ TEST(ElementEdit, CornerAndKindOperationsKeepTheListsInStepWithinTheirLimits) {
     }
 }
 
-TEST(ElementEdit, NothingSelectedChangesNothing) {
-    RecordingHost host;
-    model m = LoadedModel(EditedElements());
-    const std::vector<uint8_t> before = SavedBytes(m.Files[0]);
-    AddNodeToElement(m);
-    DeleteNodeFromElement(m, 0);
-    SwapNodes(m, 0, 1);
-    ChangeType(m, 2);
-    Duplicate_Element(m, true, m.m_currelem);
-    Duplicate_Element(m, false, m.m_currelem);
-    Delete_Piggyback(m, m.m_currelem);
-    Delete_Element(m, m.m_currelem);
-    MoveElement(m, m.m_currelem, 30000, 5);
-    EXPECT_EQ(SavedBytes(m.Files[0]), before);
-    EXPECT_TRUE(host.calls.empty());
-}
-
 TEST(ElementEdit, DeleteElementRenumbersEveryRootAndPartByte) {
     struct Row {
         int elements;
