@@ -26,7 +26,7 @@ std::vector<uint8_t> Corners(const std::vector<uint8_t>& list, int crn) {
 
 } // namespace
 
-TEST(ElementEdit, CornerOperationsKeepTheListsInStepWithinTheirLimits) {
+TEST(ElementEdit, CornerAndKindOperationsKeepTheListsInStepWithinTheirLimits) {
     using Operation = std::function<void(model&)>;
     const auto remove = [](int16_t k) -> Operation {
         return [k](model& m) { DeleteNodeFromElement(m, k); };
@@ -38,22 +38,35 @@ TEST(ElementEdit, CornerOperationsKeepTheListsInStepWithinTheirLimits) {
     const char* noCorner = "This piggyback has no corner to delete.";
     const char* full =
         "This piggyback already has 255 corners, the most one can hold. No corner was added.";
+    const auto kinds = [](std::vector<int16_t> indexes) -> Operation {
+        return [indexes](model& m) {
+            for (const int16_t index : indexes)
+                ChangeType(m, index);
+        };
+    };
     struct Row {
         int16_t number;
         Operation operation;
+        uint8_t type;
         std::vector<uint8_t> nodes, xMap;
         const char* message;
     };
-    // The piggyback, the operation, its corners' nodes and X maps afterwards, the message.
+    // The piggyback, the operation, its kind, corners' nodes and X maps afterwards, the message.
     const Row rows[] = {
-        {0, remove(0), {0, 1, 2}, {}, kPints}, // a triangle keeps its three corners
-        {1, remove(1), {0, 2, 3}, {10, 12, 13}, ""},
-        {1, remove(4), {0, 1, 2, 3}, {10, 11, 12, 13}, ""},
-        {100, remove(0), {}, {}, noCorner},
-        {1, add, {0, 1, 2, 3, 0}, {10, 11, 12, 13, 0}, ""},
-        {300, add, std::vector<uint8_t>(255, 1), {}, full},
-        {1, swap(3, 0), {3, 1, 2, 0}, {13, 11, 12, 10}, ""},
-        {1, swap(3, 4), {0, 1, 2, 3}, {10, 11, 12, 13}, ""},
+        {0, remove(0), 3, {0, 1, 2}, {}, kPints}, // a triangle keeps its three corners
+        {1, remove(1), 4, {0, 2, 3}, {10, 12, 13}, ""},
+        {1, remove(4), 4, {0, 1, 2, 3}, {10, 11, 12, 13}, ""},
+        {100, remove(0), 255, {}, {}, noCorner},
+        {1, add, 4, {0, 1, 2, 3, 0}, {10, 11, 12, 13, 0}, ""},
+        {300, add, 3, std::vector<uint8_t>(255, 1), {}, full},
+        {1, swap(3, 0), 4, {3, 1, 2, 0}, {13, 11, 12, 10}, ""},
+        {1, swap(3, 4), 4, {0, 1, 2, 3}, {10, 11, 12, 13}, ""},
+        // A line keeps two corners; as a polygon again it has three, their maps as they were.
+        {2, kinds({0}), 1, {0, 1}, {1, 3}, ""},
+        {2, kinds({0, 4}), 5, {0, 1, 2}, {1, 3, 5}, ""},
+        // Colours become the X map and stay through NULL, past the last kind; no kind changes
+        // nothing.
+        {1, kinds({4, 9, -1}), 255, {0, 1, 2, 3}, {10, 11, 12, 13}, ""},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE("row " + std::to_string(&row - rows));
@@ -62,29 +75,13 @@ TEST(ElementEdit, CornerOperationsKeepTheListsInStepWithinTheirLimits) {
         m.m_currelem = row.number;
         row.operation(m);
         const Piggyback& item = At(m, row.number);
+        EXPECT_EQ(item.Type, row.type);
         EXPECT_EQ(Corners(item.NodeList, item.CRN), row.nodes);
         if (!row.xMap.empty()) {
             EXPECT_EQ(Corners(item.XMap, item.CRN), row.xMap);
         }
         EXPECT_EQ(host.messages, Shown(row.message));
     }
-}
-
-TEST(ElementEdit, NothingSelectedChangesNothing) {
-    RecordingHost host;
-    model m = LoadedModel(EditedElements());
-    const std::vector<uint8_t> before = SavedBytes(m.Files[0]);
-    AddNodeToElement(m);
-    DeleteNodeFromElement(m, 0);
-    SwapNodes(m, 0, 1);
-    ChangeType(m, 2);
-    Duplicate_Element(m, true, m.m_currelem);
-    Duplicate_Element(m, false, m.m_currelem);
-    Delete_Piggyback(m, m.m_currelem);
-    Delete_Element(m, m.m_currelem);
-    MoveElement(m, m.m_currelem, 30000, 5);
-    EXPECT_EQ(SavedBytes(m.Files[0]), before);
-    EXPECT_TRUE(host.calls.empty());
 }
 
 TEST(ElementEdit, DeleteElementRenumbersEveryRootAndPartByte) {
@@ -142,28 +139,6 @@ TEST(ElementEdit, DeletingTheLastOneMovesTheSelectionBack) {
     EXPECT_EQ(m.m_currelem, 200);
     EXPECT_EQ(host.CallsWithoutEvents(mark),
               (std::vector<std::string>{"spin upd_3_pb: 0", "spin upd_3_elem: 2"}));
-}
-
-TEST(ElementEdit, ChangeTypeFitsTheCornersAndKeepsTheirValues) {
-    RecordingHost host;
-    model m = LoadedModel(EditedElements());
-    m.m_currelem = 2;
-    ChangeType(m, 0);
-    EXPECT_EQ(ReadBack(m).Elements[0].Items[2].CRN, 2);
-    ChangeType(m, 4);
-    const Piggyback back = ReadBack(m).Elements[0].Items[2];
-    EXPECT_EQ(Corners(back.NodeList, back.CRN), (std::vector<uint8_t>{0, 1, 2}));
-    EXPECT_EQ(Corners(back.YMap, back.CRN), (std::vector<uint8_t>{2, 4, 6}));
-
-    m.m_currelem = 1;
-    ChangeType(m, 4);
-    const Piggyback mapped = ReadBack(m).Elements[0].Items[1];
-    EXPECT_EQ(mapped.Type, 5);
-    EXPECT_EQ(Corners(mapped.XMap, mapped.CRN), (std::vector<uint8_t>{10, 11, 12, 13}));
-    EXPECT_EQ(Corners(mapped.YMap, mapped.CRN), (std::vector<uint8_t>{0, 0, 0, 0}));
-    ChangeType(m, 9);
-    ChangeType(m, -1);
-    EXPECT_EQ(At(m, 1).Type, 255);
 }
 
 TEST(ElementEdit, DuplicatesGoLastWithoutDisplayCodeAndStopAtTheNumberLimits) {

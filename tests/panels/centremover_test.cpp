@@ -1,5 +1,5 @@
 // The Centre Mover panel, driven through its widgets: the running total of the moves and its
-// undo, and the dimensions in model units and metres after a rescale.
+// undo, the dimensions in model units and metres after a rescale, and the rescale itself.
 #include "centremoverpanel.h"
 #include "currentmodel.h"
 #include "panelfixture.h"
@@ -7,6 +7,7 @@
 #include <QTest>
 
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -65,6 +66,11 @@ TEST_F(CentreMoverTest, RunningTotalAndItsUndo) {
         EXPECT_EQ(NodeAt(0).X - first.X, c.movedX) << c.actions << ": every node moves";
         EXPECT_EQ(Text("txt_5_x").toInt(), c.spinX) << c.actions;
         EXPECT_EQ(host.messages.size(), c.messages) << c.actions;
+        if (!host.messages.empty()) {
+            EXPECT_EQ(host.messages[0], "Moving the model by 1 along X would take X of node 2 to "
+                                        "32768, beyond the range of a coordinate (-32768 to "
+                                        "32767). Nothing was moved.");
+        }
         host.messages.clear();
         Click("cmd_5_apply");
     }
@@ -82,6 +88,54 @@ TEST_F(CentreMoverTest, DimensionsInUnitsAndMetres) {
     EXPECT_EQ(shown(), QStringList({"2000", "89.6 m", "1002", "44.89 m"}));
     Click("cmd_5_scale"); // a second press scales again
     EXPECT_EQ(shown(), QStringList({"4000", "179.2 m", "2004", "89.78 m"}));
+}
+
+// The nodes of each row stand along X; the factor is typed as a percentage.
+TEST_F(CentreMoverTest, ScaleRoundsHalvesToEvenAndRefusesOverflowWhole) {
+    struct Row {
+        const char* percent;
+        std::vector<int16_t> before, after;
+        std::vector<MessageAnswer> answers;
+        const char* message;
+    };
+    const Row rows[] = {
+        {"50", {3, 5, 7, -3, 4}, {2, 2, 4, -2, 2}, {}, ""},
+        {"100", {3, -32768, 32767}, {3, -32768, 32767}, {}, ""},
+        {"200",
+         {5, 20000, 30000},
+         {5, 20000, 30000},
+         {},
+         "Scaling by 2 would take X of node 1 to 40000, beyond the range of a coordinate "
+         "(-32768 to 32767). Nothing was scaled."},
+        {"0",
+         {5, -7},
+         {5, -7},
+         {MessageAnswer::No},
+         "Scaling by 0 puts every node of this file at the origin. Do you want to scale it?"},
+        {"-100",
+         {5, -7},
+         {-5, 7},
+         {MessageAnswer::Yes},
+         "Scaling by -1 mirrors every node of this file through the origin. Do you want to scale "
+         "it?"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.percent);
+        MoxBuilder file = SmallFile(0);
+        for (const int16_t x : row.before)
+            file.nodes.push_back(Node{int16_t(-x), 1, x, 0});
+        Open(file);
+        host.messages.clear();
+        host.answers.assign(row.answers.begin(), row.answers.end());
+        Find<QLineEdit>("txt_5_scale").setText(row.percent);
+        Click("cmd_5_scale");
+        std::vector<int16_t> xs;
+        for (int n = 0; n < CurrentModel().Files[0].NumNodes; ++n)
+            xs.push_back(NodeAt(n).X);
+        EXPECT_EQ(xs, row.after);
+        EXPECT_EQ(host.messages, row.message[0] == 0 ? std::vector<std::string>{}
+                                                     : std::vector<std::string>{row.message});
+    }
 }
 
 } // namespace

@@ -17,7 +17,6 @@ TEST_F(PanelTest, PartsFillShowsThePredefinedRowOfCodeAndNum) {
     // A Code above 2 ends the fill at the list that cannot show it, after the pivot.
     const std::vector<Row> rows = {{2, 0, "2-0 Wing L.G. - No Fold"},
                                    {2, 3, "2-3 Same as 2-1"},
-                                   {2, 4, "2-4 Left Eng. in Twins"},
                                    {2, 7, "2-7 No.4 Eng. in 4-Engs"},
                                    {1, 1, "1-1 Gear Retracts Rear"},
                                    {1, 3, "1-3 Same as 1-2"},
