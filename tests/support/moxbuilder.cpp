@@ -118,6 +118,15 @@ std::vector<uint8_t> SavedBytes(const FileRecord& record) {
     return bytes;
 }
 
+void WriteSmallModel(const std::string& path, int16_t radius) {
+    MoxBuilder model;
+    model.radius = radius;
+    model.nodes = {Node{3, 4, 5, 0}};
+    model.root = {0, kNoElement};
+    model.streams = {StreamBytes().Hardpoint(27, 0).End().bytes};
+    WriteTestFile(path, model.Build());
+}
+
 void WriteTestFile(const std::string& path, const std::vector<uint8_t>& bytes) {
     std::ofstream out(path, std::ios::binary | std::ios::trunc);
     out.write(reinterpret_cast<const char*>(bytes.data()),
