@@ -19,14 +19,8 @@ namespace {
 // A folder holding a small family that the texts can name.
 struct Workspace {
     Workspace() {
-        for (const char* name : {"SHIPF.MOX", "SHIPA.MOX", "TMOD1H.MOX", "TMOD1L.MOX"}) {
-            MoxBuilder model;
-            model.radius = 40;
-            model.nodes = {Node{10, -20, 300, 0}, Node{-10, 5, -60, 0}};
-            model.root = {0, kNoElement};
-            model.streams = {StreamBytes().Hardpoint(25, 1).Line(0, 1, 7).End().bytes};
-            WriteTestFile(dir.file(name), model.Build());
-        }
+        for (const char* name : {"SHIPF.MOX", "SHIPA.MOX", "TMOD1H.MOX", "TMOD1L.MOX"})
+            WriteSmallModel(dir.file(name), 40);
     }
     TempDir dir;
     std::string project = dir.file("fuzz.3vw");

@@ -8,7 +8,6 @@
 
 #include <csignal>
 #include <fstream>
-#include <iterator>
 #include <random>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -19,14 +18,10 @@ constexpr int kInterruptedSaves = 100;
 constexpr size_t kContentsSize = 64 * 1024;
 constexpr unsigned kLongestSpin = 300000;
 
-std::string Contents(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
-
 // Starts a process that saves `first` and `second` over `path` in turn until it is killed; returns
 // once it has begun its first save.
-pid_t StartSaving(const std::string& path, const std::string& first, const std::string& second) {
+pid_t StartSaving(const std::string& path, const std::vector<uint8_t>& first,
+                  const std::vector<uint8_t>& second) {
     int ready[2];
     if (pipe(ready) != 0)
         return -1;
@@ -52,8 +47,8 @@ pid_t StartSaving(const std::string& path, const std::string& first, const std::
 TEST(FileReplace, AKilledSaveLeavesTheOldOrTheNewFileAndNothingBesideIt) {
     TempDir dir;
     const std::string target = dir.file("PLANEF.MOX");
-    const std::string older(kContentsSize, 'o');
-    const std::string newer(kContentsSize, 'n');
+    const std::vector<uint8_t> older(kContentsSize, 'o');
+    const std::vector<uint8_t> newer(kContentsSize, 'n');
     std::string error;
     ASSERT_TRUE(ReplaceFileContents(target, older, error)) << error;
 
@@ -68,8 +63,8 @@ TEST(FileReplace, AKilledSaveLeavesTheOldOrTheNewFileAndNothingBesideIt) {
         int status = 0;
         waitpid(child, &status, 0);
 
-        const std::string now = Contents(target);
-        ASSERT_TRUE(now == older || now == newer) << "round " << round << ": " << now.size();
+        const std::vector<uint8_t> now = ReadFileBytes(target);
+        ASSERT_TRUE(now == older || now == newer) << "round " << round;
         for (const std::string& name : FilesIn(dir.path()))
             ASSERT_TRUE(name == "PLANEF.MOX" || name.rfind(".PLANEF.MOX.saving-", 0) == 0)
                 << "round " << round << " left " << name;
@@ -79,5 +74,5 @@ TEST(FileReplace, AKilledSaveLeavesTheOldOrTheNewFileAndNothingBesideIt) {
     std::ofstream(dir.file(".PLANEF.MOX.saving-Ab12Cd")) << "left over";
     ASSERT_TRUE(ReplaceFileContents(target, newer, error)) << error;
     EXPECT_EQ(FilesIn(dir.path()), std::vector<std::string>{"PLANEF.MOX"});
-    EXPECT_EQ(Contents(target), newer);
+    EXPECT_EQ(ReadFileBytes(target), newer);
 }

@@ -1,17 +1,14 @@
-// Small model files for the family and project tests, told apart by their Radius; what a folder
+// What the family and project tests look at: the Radius of a file and of each slot, what a folder
 // holds after a save; the entries of a record as text, to compare them whole.
 #pragma once
 
-#include "filerecord.h"
 #include "model.h"
+#include "moxbuilder.h"
 
 #include <cstdint>
 #include <filesystem>
 #include <string>
 #include <vector>
-
-// Writes a model of one node and one element holding a hardpoint to `path`.
-void WriteSmallModel(const std::string& path, int16_t radius);
 
 // The Radius stored in the model file at `path`, or -1 when there is no such file.
 int ReadRadius(const std::string& path);

@@ -26,6 +26,7 @@ struct WriteCase {
     int16_t j;
     InfoWrite result;
     std::string stored;
+    int32_t type = kMoxLoaded; // what is open; with nothing open no file is read either
 };
 
 class UpdateInfoTest : public ::testing::TestWithParam<WriteCase> {};
@@ -34,6 +35,9 @@ TEST_P(UpdateInfoTest, StoresWithinTheFieldsWidthOrKeepsTheRecord) {
     const WriteCase& c = GetParam();
     model owner;
     OpenInMemory(owner, SmallFile());
+    owner.M_Type = c.type;
+    if (c.type == kNothingLoaded)
+        owner.Files.clear();
     EXPECT_EQ(owner.UpdateInfo(c.field, c.value, c.i, c.j), c.result);
     EXPECT_EQ(owner.InfoText(c.field, c.i, c.j).value_or("none"), c.stored);
 }
@@ -60,20 +64,8 @@ INSTANTIATE_TEST_SUITE_P(
         WriteCase{kFieldXMap, "3", 0, 9, InfoWrite::Refused, "none"},
         WriteCase{2, "3", -1, -1, InfoWrite::Refused, "none"},
         WriteCase{kFieldTexture, "NEW 1.TPC", -1, -1, InfoWrite::Written, "NEW 1.TPC     "},
-        WriteCase{kFieldTexture, "ABCDEFGHIJKLMNOPQ", -1, -1, InfoWrite::Written,
-                  "ABCDEFGHIJKLMN"}));
-
-TEST(UpdateInfo, WritesNothingWithoutAnOpenMoxFile) {
-    for (const int32_t type : {kNothingLoaded, kMoyLoaded}) {
-        model owner;
-        OpenInMemory(owner, SmallFile());
-        owner.M_Type = type;
-        EXPECT_EQ(owner.UpdateInfo(kFieldRadius, "7", -1, -1), InfoWrite::Refused);
-        EXPECT_FALSE(owner.InfoText(kFieldRadius, -1, -1));
-        EXPECT_EQ(owner.Files[0].Radius, 500);
-    }
-    model empty;
-    EXPECT_EQ(empty.UpdateInfo(kFieldNodeX, "7", 0, -1), InfoWrite::Refused);
-}
+        WriteCase{kFieldTexture, "ABCDEFGHIJKLMNOPQ", -1, -1, InfoWrite::Written, "ABCDEFGHIJKLMN"},
+        WriteCase{kFieldRadius, "7", -1, -1, InfoWrite::Refused, "none", kMoyLoaded},
+        WriteCase{kFieldNodeX, "7", 0, -1, InfoWrite::Refused, "none", kNothingLoaded}));
 
 } // namespace

@@ -1,8 +1,9 @@
-// The .mox reader: layout of the tables, the walk of the streams, hardpoints, damaged files and
-// the texture lookup.
+// The .mox reader: layout of the tables, the walk of the streams and the nodes an entry's Number
+// finds, hardpoints, damaged files and the texture lookup.
 #include "modelfiles.h"
 #include "moxbuilder.h"
 #include "moxreader.h"
+#include "piggybacknumber.h"
 #include "programstate.h"
 #include "recordinghost.h"
 #include "recordingtextureloader.h"
@@ -43,7 +44,7 @@ TEST(MoxReader, ReadsTheTablesAndEveryKindAndNumbersTheEntries) {
             .Line(1, 2, 40)
             .Prefix(7, 3)
             .Hardpoint(30, 4)
-            .ColouredPoly({1, 2, 3}, 9)
+            .ColouredPoly({1, 2, 8}, 9) // node 8 is beyond the nodes
             .GouraudPoly({{1, 11}, {2, 12}})
             .MappedPoly(6, {{1, 2, 3}}, 4, 5)
             .MappedPoly(0, {}, 6, 7) // a first byte of 0 is read like a Textured Poly
@@ -74,13 +75,22 @@ TEST(MoxReader, ReadsTheTablesAndEveryKindAndNumbersTheEntries) {
                                    "0 0,0, t255 c0 n x y a0,0,",
                                    "100 0,0, t1 c2 n1,2,0, x y a40,0,",
                                    "101 7,3, t2 c1 n4,0, x y a30,0,",
-                                   "102 0,0, t3 c3 n1,2,3,0, x y a9,0,",
+                                   "102 0,0, t3 c3 n1,2,8,0, x y a9,0,",
                                    "103 0,0, t4 c2 n1,2,0, x11,12,0, y a0,0,",
                                    "104 0,0, t6 c1 n1,0, x2,0, y3,0, a4,5,",
                                    "105 0,0, t0 c0 n0, x0, y0, a6,7,",
                                    "106 200,9, t150 c1 n7,0, x8,0, y9,0, a1,2,",
                                }));
     EXPECT_EQ(record.Elements[0].Items[0].NextByte, 255);
+
+    // An entry's Number finds its nodes, and nothing the file does not hold.
+    Node found;
+    ASSERT_TRUE(GetElementNode(record, 102, 1, found));
+    EXPECT_EQ(found.X, 6);
+    EXPECT_FALSE(GetElementNode(record, 102, 2, found)) << "node 8 lies outside Nodes";
+    EXPECT_EQ(FindPiggyback(record, 107), nullptr) << "no piggyback at position 7";
+    EXPECT_FALSE(GetElementNode(record, 200, 0, found)) << "no element 2";
+    EXPECT_FALSE(GetElementNode(record, -1, 0, found));
 }
 
 TEST(MoxReader, HardpointsFillTheirSlotsTheLaterWinning) {
@@ -191,18 +201,6 @@ TEST(MoxReader, AHostileFileHoldsABoundedNumberOfEntries) {
     EXPECT_LE(entries, static_cast<size_t>(kMaxEntriesPerRecord) + 0x7F7Fu);
     EXPECT_EQ(record.Elements[300].Items[0].Number, 30000);
     EXPECT_EQ(record.Elements[330].Items[0].Number, 0) << "33000 does not fit 16 bits";
-}
-
-TEST(MoxReader, AMissingFileGivesABlankRecordSilently) {
-    TempDir dir;
-    RecordingHost host;
-    for (const std::string& name : {std::string(), dir.file("NONE.MOX"), dir.path().string()}) {
-        const FileRecord record = READ_MOX(name, 2);
-        EXPECT_EQ(
-            Numbers({record.Loaded, record.NumNodes, static_cast<int>(record.Elements.size())}),
-            "0,0,0,");
-    }
-    EXPECT_TRUE(host.messages.empty());
 }
 
 TEST(MoxReader, FindsTheTextureInTheModelsFolderWhateverItsCase) {

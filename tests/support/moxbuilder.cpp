@@ -19,12 +19,6 @@ void PutInt16(std::vector<uint8_t>& out, std::initializer_list<int> values) {
     }
 }
 
-void PutInt32(std::vector<uint8_t>& out, int32_t value) {
-    const auto bits = static_cast<uint32_t>(value);
-    for (int shift = 0; shift < 32; shift += 8)
-        out.push_back(static_cast<uint8_t>((bits >> shift) & 0xFF));
-}
-
 } // namespace
 
 StreamBytes& StreamBytes::ColouredPoly(const std::vector<uint8_t>& nodes, uint8_t colour) {
@@ -71,9 +65,8 @@ std::vector<uint8_t> MoxBuilder::Build() const {
     }
     for (int i = 0; i < elements; ++i) {
         const NRMRecord plane = i < static_cast<int>(planes.size()) ? planes[i] : NRMRecord{};
-        PutInt16(out, {plane.Y, plane.Z, plane.X});
-        PutInt32(out, plane.D);
-        PutInt16(out, {plane.F});
+        // D is 32 bits: its low word, then its high word.
+        PutInt16(out, {plane.Y, plane.Z, plane.X, plane.D & 0xFFFF, plane.D >> 16, plane.F});
     }
     out.insert(out.end(), root.begin(), root.end());
     for (int i = 0; i < elements; ++i) {
@@ -116,6 +109,15 @@ std::vector<uint8_t> SavedBytes(const FileRecord& record) {
     if (!BuildMoxBytes(record, bytes, problem))
         throw std::runtime_error("the save refuses the record: " + problem);
     return bytes;
+}
+
+void WriteSmallModel(const std::string& path, int16_t radius) {
+    MoxBuilder model;
+    model.radius = radius;
+    model.nodes = {Node{3, 4, 5, 0}};
+    model.root = {0, kNoElement};
+    model.streams = {StreamBytes().Hardpoint(27, 0).End().bytes};
+    WriteTestFile(path, model.Build());
 }
 
 void WriteTestFile(const std::string& path, const std::vector<uint8_t>& bytes) {

@@ -67,6 +67,10 @@ public:
 // the calling test.
 std::vector<uint8_t> SavedBytes(const FileRecord& record);
 
+// Writes a model of one node and one element holding a hardpoint to `path`, told apart from others
+// by its Radius.
+void WriteSmallModel(const std::string& path, int16_t radius);
+
 // Writes `bytes` to `path`; throws when it cannot, which fails the calling test.
 void WriteTestFile(const std::string& path, const std::vector<uint8_t>& bytes);
 std::vector<uint8_t> ReadFileBytes(const std::string& path);

@@ -63,17 +63,10 @@ TEST_F(MoxToolTest, BuildRefusesBadInputInOneLineAndWritesNothing) {
     const std::string in = dir.file("in.json");
     const std::string out = dir.file("OUT.MOX");
     Json badCorners = Json::parse(RunTool({"dump", "--json", model}).out);
-    // A model too large for its offsets is refused by the save.
-    Json big = badCorners;
     badCorners["elements"][1][0]["nodes"].push_back(0);
-    big["num_nodes"] = 5000;
-    big["nodes"] = Json(5000, Json{{"x", 0}, {"y", 0}, {"z", 0}, {"b", 0}});
     const std::pair<std::string, std::string> rows[] = {
         {badCorners.dump(), "moxtool: " + in + ": elements[1][0].nodes: 4 entries, crn is 3\n"},
         {"{\"format\": [1,", "moxtool: " + in + ": not well-formed JSON: "},
-        {big.dump(), "moxtool: " + out +
-                         ": Error in Save... the streams of element 0 would start beyond byte "
-                         "32767\n"},
     };
     for (const auto& [text, error] : rows) {
         std::ofstream(in, std::ios::trunc) << text;
@@ -109,9 +102,16 @@ TEST_F(MoxToolTest, InfoSummarisesEachFileAndNamesTheOnesItCannotRead) {
 }
 
 // Every command answers --help on stdout and a wrong option with one line on stderr that names
-// it and shows its usage; inputs that cannot be read or written end with status 2 as well.
+// it and shows its usage; inputs that cannot be read or written end with status 2 as well. The
+// program itself hands its words to the commands and exits with their status.
 TEST_F(MoxToolTest, HelpUsageErrorsAndUnusableFilesGiveTheirStatusAndOneLine) {
     EXPECT_NE(RunTool({"--help"}).out.find("  resave\t"), std::string::npos);
+    for (const auto& [words, status] :
+         {std::pair{"--help", kExitOk}, std::pair{"info --bogus", kExitFailure}}) {
+        const int result =
+            std::system((std::string(MOXTOOL_PROGRAM) + " " + words + " >/dev/null 2>&1").c_str());
+        EXPECT_EQ(WIFEXITED(result) ? WEXITSTATUS(result) : -1, status) << words;
+    }
     for (const ToolCommand& command : ToolCommands()) {
         const std::string name = command.name;
         const ToolRun help = RunTool({name, "--help"});
@@ -128,9 +128,6 @@ TEST_F(MoxToolTest, HelpUsageErrorsAndUnusableFilesGiveTheirStatusAndOneLine) {
     WriteFileBytes(dir.file("good.pcx"), pcx);
     pcx[3] = 4;
     WriteFileBytes(dir.file("deep.pcx"), pcx);
-    pcx[3] = 8;
-    pcx[65] = 4;
-    WriteFileBytes(dir.file("planes.pcx"), pcx);
     const std::string folder = dir.path().string();
     const std::string none = dir.file("NONE.MOX");
     const std::string out = dir.file("out.ppm");
@@ -141,7 +138,6 @@ TEST_F(MoxToolTest, HelpUsageErrorsAndUnusableFilesGiveTheirStatusAndOneLine) {
         {{"dump", "--json", none}, "moxtool: " + none + ": no such file\n"},
         {{"resave", model, folder}, "moxtool: " + folder + ": Error in Save..."},
         {{"texture", dir.file("deep.pcx"), out}, "Sorry, can't load " + dir.file("deep.pcx") + "!"},
-        {{"texture", dir.file("planes.pcx"), out}, "moxtool texture: "},
         {{"texture", dir.file("missing.pcx"), out}, "moxtool texture: "},
         {{"texture", dir.file("good.pcx"), dir.file("out.bmp")}, "moxtool texture: "},
         {{"frobnicate"}, "moxtool: unknown command 'frobnicate'"},
@@ -153,16 +149,4 @@ TEST_F(MoxToolTest, HelpUsageErrorsAndUnusableFilesGiveTheirStatusAndOneLine) {
         EXPECT_EQ(run.err.rfind(error, 0), 0u) << run.err;
     }
     EXPECT_FALSE(std::filesystem::exists(out));
-}
-
-// The program itself hands its words to the commands and exits with their status.
-TEST_F(MoxToolTest, TheProgramExitsWithTheCommandsStatus) {
-    const auto status = [&](const std::string& words) {
-        const int result =
-            std::system((std::string(MOXTOOL_PROGRAM) + " " + words + " >/dev/null 2>&1").c_str());
-        return WIFEXITED(result) ? WEXITSTATUS(result) : -1;
-    };
-    EXPECT_EQ(status("--help"), kExitOk);
-    EXPECT_EQ(status("info --bogus"), kExitFailure);
-    EXPECT_EQ(status("info " + model), kExitOk);
 }
