@@ -14,8 +14,6 @@
 
 #include <GL/gl.h>
 
-#include <ostream>
-
 namespace {
 constexpr int kFrameWaitMilliseconds = 10000;
 }
@@ -72,8 +70,4 @@ QImage EditorTest::GrabShownFrame() {
 Rgb PixelAt(const QImage& image, int x, int y) {
     const QColor colour = image.pixelColor(x, y);
     return {colour.red(), colour.green(), colour.blue()};
-}
-
-void PrintTo(const Rgb& colour, std::ostream* out) {
-    *out << "(" << colour.red << ", " << colour.green << ", " << colour.blue << ")";
 }

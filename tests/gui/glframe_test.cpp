@@ -22,7 +22,7 @@ namespace {
 
 void ExpectSkyEverywhere(const QImage& frame, const char* what) {
     QImage sky(frame.size(), QImage::Format_RGB32);
-    sky.fill(QColor(kStartSky.red, kStartSky.green, kStartSky.blue));
+    sky.fill(QColor(kStartSky[0], kStartSky[1], kStartSky[2]));
     EXPECT_TRUE(!frame.isNull() && frame.convertToFormat(QImage::Format_RGB32) == sky) << what;
 }
 
