@@ -9,7 +9,6 @@
 #include "skylathe.h"
 #include "viewsettings.h"
 
-#include <QScreen>
 #include <QTest>
 
 #include <GL/gl.h>
@@ -61,10 +60,6 @@ QImage EditorTest::ReadFrame() {
     glReadPixels(0, 0, size.width(), size.height(), GL_RGBA, GL_UNSIGNED_BYTE, image.bits());
     // GL counts rows from the bottom.
     return image.mirrored();
-}
-
-QImage EditorTest::GrabShownFrame() {
-    return Surface().screen()->grabWindow(Surface().winId()).toImage();
 }
 
 Rgb PixelAt(const QImage& image, int x, int y) {

@@ -32,8 +32,6 @@ protected:
     bool WaitForFrames(int count);
     // Paints one frame into the view's back buffer, as the view paints it, and reads it back.
     QImage ReadFrame();
-    // The view's pixels as the display shows them, after the last buffer swap.
-    QImage GrabShownFrame();
 
     // Messages and questions are answered by `host`; the window's changes of a load go on to
     // the real window through `windowHost`, and textures reach GL as in the program.
