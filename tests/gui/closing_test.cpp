@@ -15,9 +15,10 @@ namespace {
 constexpr const char* kSaveQuestion = "Do you wish to save the current file(s) before exiting?";
 }
 
-TEST_F(EditorTest, ExitWithAModelOpenAsksAndCancelKeepsTheProgramRunning) {
+TEST_F(EditorTest, ExitWithAModelOpenAsksCancelKeepsTheProgramRunningAndNoEndsTheMainLoop) {
     CurrentModel().M_Type = kMoxLoaded;
     QSignalSpy saved(Find<QAction>("mnu_f_saveall"), &QAction::triggered);
+    QSignalSpy unloaded(&Window(), &frm_main::Unloaded);
     host.answers = {MessageAnswer::Cancel, MessageAnswer::No};
 
     Find<QAction>("mnu_f_exit")->trigger();
@@ -29,19 +30,12 @@ TEST_F(EditorTest, ExitWithAModelOpenAsksAndCancelKeepsTheProgramRunning) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return Window().glView->FrameCount() > painted; }))
         << "the view goes on showing changes after Cancel";
 
-    Window().close();
+    QTimer::singleShot(0, &Window(), [this] { Window().close(); });
+    RunMainLoop(Window());
     EXPECT_EQ(host.messages.size(), 2u);
+    EXPECT_EQ(unloaded.count(), 1);
     EXPECT_FALSE(OGL().bRunning || Window().isVisible());
     EXPECT_EQ(saved.count(), 0);
-}
-
-TEST_F(EditorTest, ExitWithNothingOpenAsksNothingAndEndsTheMainLoop) {
-    QSignalSpy unloaded(&Window(), &frm_main::Unloaded);
-    QTimer::singleShot(0, &Window(), [this] { Find<QAction>("mnu_f_exit")->trigger(); });
-    RunMainLoop(Window());
-    EXPECT_EQ(unloaded.count(), 1);
-    EXPECT_TRUE(host.messages.empty());
-    EXPECT_FALSE(OGL().bRunning || Window().isVisible());
     // With bRunning false the loop does not start again.
     RunMainLoop(Window());
 }

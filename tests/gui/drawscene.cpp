@@ -107,9 +107,7 @@ QPoint OnScreen(double x, double y, double z) {
 int32_t StripTexture(const std::vector<Rgb>& texels) {
     std::vector<uint8_t> pixels;
     for (const Rgb& texel : texels)
-        pixels.insert(pixels.end(),
-                      {static_cast<uint8_t>(texel.red), static_cast<uint8_t>(texel.green),
-                       static_cast<uint8_t>(texel.blue)});
+        pixels.insert(pixels.end(), texel.begin(), texel.end());
     GLuint name = 0;
     glGenTextures(1, &name);
     glBindTexture(GL_TEXTURE_2D, name);
@@ -122,6 +120,6 @@ int32_t StripTexture(const std::vector<Rgb>& texels) {
 }
 
 bool Near(const Rgb& a, const Rgb& b, int tolerance) {
-    return std::abs(a.red - b.red) <= tolerance && std::abs(a.green - b.green) <= tolerance &&
-           std::abs(a.blue - b.blue) <= tolerance;
+    return std::equal(a.begin(), a.end(), b.begin(),
+                      [tolerance](int x, int y) { return std::abs(x - y) <= tolerance; });
 }

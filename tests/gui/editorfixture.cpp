@@ -9,12 +9,9 @@
 #include "skylathe.h"
 #include "viewsettings.h"
 
-#include <QScreen>
 #include <QTest>
 
 #include <GL/gl.h>
-
-#include <ostream>
 
 namespace {
 constexpr int kFrameWaitMilliseconds = 10000;
@@ -65,15 +62,7 @@ QImage EditorTest::ReadFrame() {
     return image.mirrored();
 }
 
-QImage EditorTest::GrabShownFrame() {
-    return Surface().screen()->grabWindow(Surface().winId()).toImage();
-}
-
 Rgb PixelAt(const QImage& image, int x, int y) {
     const QColor colour = image.pixelColor(x, y);
     return {colour.red(), colour.green(), colour.blue()};
-}
-
-void PrintTo(const Rgb& colour, std::ostream* out) {
-    *out << "(" << colour.red << ", " << colour.green << ", " << colour.blue << ")";
 }

@@ -11,6 +11,7 @@
 #include <QImage>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <memory>
 
 class GLView;
@@ -31,8 +32,6 @@ protected:
     bool WaitForFrames(int count);
     // Paints one frame into the view's back buffer, as the view paints it, and reads it back.
     QImage ReadFrame();
-    // The view's pixels as the display shows them, after the last buffer swap.
-    QImage GrabShownFrame();
 
     // Messages and questions are answered by `host`; the window's changes of a load go on to
     // the real window through `windowHost`, and textures reach GL as in the program.
@@ -49,16 +48,8 @@ template <typename T> T* EditorTest::Find(const char* name) const {
 }
 
 // The red, green and blue of a pixel, for comparing with a sky colour.
-struct Rgb {
-    int red = 0;
-    int green = 0;
-    int blue = 0;
-    bool operator==(const Rgb& other) const {
-        return red == other.red && green == other.green && blue == other.blue;
-    }
-};
+using Rgb = std::array<int, 3>;
 // The start sky colour 178, 229, 255 divided by 256, as an 8-bit buffer holds it:
 // round(178 / 256 * 255) = 177, round(229 / 256 * 255) = 228, round(255 / 256 * 255) = 254.
 inline const Rgb kStartSky{177, 228, 254};
 Rgb PixelAt(const QImage& image, int x, int y);
-void PrintTo(const Rgb& colour, std::ostream* out);

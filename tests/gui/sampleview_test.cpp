@@ -47,7 +47,6 @@ TEST_F(EditorTest, TheSampleFighterOpensAssembledAndTexturedAndYesSavesEveryFile
     const Landmark landmarks[] = {
         {"camouflage behind the cockpit", -0.5, 12.8, 14.2, {64, 82, 48}},
         {"nose art panel of PDEMOC", -36.0, 16.1, 8.0, {242, 232, 202}},
-        {"right wing of PDEMOE", -14.1, 67.7, 1.0, {122, 98, 62}},
         {"right main wheel, down", -6.6, 42.1, -40.5, {30, 30, 30}},
     };
     for (const Landmark& mark : landmarks) {

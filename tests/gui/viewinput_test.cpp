@@ -28,15 +28,10 @@ protected:
     void SetUp() override {
         EditorTest::SetUp();
         host.windowSide = nullptr;
-        SetHost(&host);
         // A file of one node at the origin, for the tests that need no more.
         TestFile file;
         file.AddNode(0, 0, 0);
         InstallFamily({file.record});
-    }
-    void TearDown() override {
-        SetHost(&windowHost);
-        EditorTest::TearDown();
     }
 
     // Where a model point lands in a frame painted now; a corner of the view for the sky. A tab

@@ -15,6 +15,9 @@ class CentreMoverTest : public PanelTest {
 protected:
     void SetUp() override {
         PanelTest::SetUp();
+        OpenSpanAndLength();
+    }
+    void OpenSpanAndLength() {
         MoxBuilder file;
         // Span 1000 (Y -500 to 500), length 501 (X -200 to 301).
         file.nodes = {Node{-500, 0, -200, 0}, Node{500, 100, 301, 0}, Node{0, -3, 7, 0}};
@@ -29,7 +32,7 @@ protected:
         if (action == 'A' || action == 'U')
             Click(action == 'A' ? "cmd_5_apply" : "cmd_5_undo");
         else if (action == 'T')
-            panels->centreMover().TabShown();
+            Panels().centreMover().TabShown();
         else
             QTest::keyClick(&Spin(action == 'X' ? "upd_5_x" : "upd_5_y"),
                             action == 'X' ? Qt::Key_Up : Qt::Key_Down);
@@ -55,7 +58,7 @@ TEST_F(CentreMoverTest, RunningTotalAndItsUndo) {
         {"XX", 32767, 0, 0, 2},
     };
     for (const TotalCase& c : cases) {
-        SetUp();
+        OpenSpanAndLength();
         NodeAt(2).X = c.startX;
         const Node before = NodeAt(2);
         const Node first = NodeAt(0);
@@ -81,7 +84,7 @@ TEST_F(CentreMoverTest, DimensionsInUnitsAndMetres) {
         return QStringList({Text("txt_5_span"), Text("txt_5_realspan"), Text("txt_5_length"),
                             Text("txt_5_reallength")});
     };
-    panels->centreMover().TabShown();
+    Panels().centreMover().TabShown();
     EXPECT_EQ(shown(), QStringList({"1000", "44.8 m", "501", "22.44 m"}));
     Find<QLineEdit>("txt_5_scale").setText("200");
     Click("cmd_5_scale");

@@ -1,34 +1,25 @@
-// A stand-in for the main window's left pane: the frames of tabs 1 to 7 with their panels, and
-// a host that sends the model's fills, spin settings and picks to them. Messages and questions go
-// to a RecordingHost.
+// The editor window with its left pane's panels, driven through their widgets by name on files
+// opened in memory. Messages and questions go to the fixture's RecordingHost.
 #pragma once
 
+#include "editorfixture.h"
 #include "editpanels.h"
 #include "model.h"
 #include "moxbuilder.h"
-#include "recordinghost.h"
 
 #include <QLineEdit>
 #include <QSpinBox>
-#include <QWidget>
-#include <gtest/gtest.h>
 
-#include <memory>
-
-class PanelTest : public ::testing::Test {
+class PanelTest : public EditorTest {
 protected:
-    PanelTest();
-    ~PanelTest() override;
-    void SetUp() override;
-    void TearDown() override;
-
     // Opens `file` in memory as the main file of a fresh current model, then fills tab 1 as
     // showing the tab does.
     model& Open(const MoxBuilder& file);
     // A file of one hardpoint element on node 0, `nodes` nodes and `parts` part records.
     static MoxBuilder SmallFile(int nodes = 1, int parts = 0);
+    EditPanels& Panels() { return *Window().panels; }
     template <typename T> T& Find(const char* name) const {
-        T* control = pane_->findChild<T*>(name);
+        T* control = EditorTest::Find<T>(name);
         EXPECT_NE(control, nullptr) << name;
         return *control;
     }
@@ -40,12 +31,4 @@ protected:
     void Choose(const char* name, int row);
     // Types `text` into the field `name` and presses `last` (Return commits).
     void Enter(const char* name, const QString& text, Qt::Key last = Qt::Key_Return);
-
-    RecordingHost host;
-    std::unique_ptr<EditPanels> panels;
-
-private:
-    class PaneHost;
-    std::unique_ptr<QWidget> pane_;
-    std::unique_ptr<PaneHost> paneHost_;
 };

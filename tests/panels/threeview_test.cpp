@@ -47,7 +47,7 @@ TEST_F(PanelTest, ProjectMadeFromThePanelReadsBack) {
     const QString answers[] = {sample + drawings[1], sample + drawings[2], sample + drawings[0], "",
                                QString::fromStdString(file)};
     std::vector<std::string> asked;
-    panels->threeView().AskForFile = [&](const ThreeViewPanel::FileQuestion& question) {
+    Panels().threeView().AskForFile = [&](const ThreeViewPanel::FileQuestion& question) {
         asked.push_back(std::string(question.title) + " | " + question.filter);
         return answers[asked.size() - 1];
     };
@@ -84,8 +84,8 @@ TEST_F(PanelTest, ProjectMadeFromThePanelReadsBack) {
     CurrentModel().LoadProject(file);
     EXPECT_EQ(host.messages.size(), 1u) << "only the question of the connected files";
     // What the panels show of the project read back.
-    panels->FillPanel(kThreeViewDataTab);
-    panels->FillPanel(kNotepadTab);
+    Panels().FillPanel(kThreeViewDataTab);
+    Panels().FillPanel(kNotepadTab);
     EXPECT_EQ(Text("txt_7_span_m"), "9.99 m");
     EXPECT_EQ(Text("txt_7_viewname"), sample + drawings[0]);
     EXPECT_EQ(notes.toPlainText(), "Wing root at 15\nGear down");
