@@ -10,17 +10,15 @@ constexpr int64_t kNowhere = std::numeric_limits<int64_t>::max() / 2;
 } // namespace
 
 int16_t MoxInput::ReadInt16() {
-    uint8_t bytes[2];
-    ReadBlock(bytes, sizeof bytes);
-    return static_cast<int16_t>(static_cast<uint16_t>(bytes[0] | (bytes[1] << 8)));
+    const uint16_t low = ReadByte();
+    const uint16_t high = ReadByte();
+    return static_cast<int16_t>(static_cast<uint16_t>(low | (high << 8)));
 }
 
 int32_t MoxInput::ReadInt32() {
-    uint8_t bytes[4];
-    ReadBlock(bytes, sizeof bytes);
-    return static_cast<int32_t>(
-        static_cast<uint32_t>(bytes[0]) | static_cast<uint32_t>(bytes[1]) << 8 |
-        static_cast<uint32_t>(bytes[2]) << 16 | static_cast<uint32_t>(bytes[3]) << 24);
+    const auto low = static_cast<uint16_t>(ReadInt16());
+    const auto high = static_cast<uint16_t>(ReadInt16());
+    return static_cast<int32_t>(static_cast<uint32_t>(low) | static_cast<uint32_t>(high) << 16);
 }
 
 void MoxInput::ReadBlock(uint8_t* out, size_t count) {
