@@ -2,6 +2,7 @@
 // the writer and the JSON form so that all three walk an entry the same way.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 constexpr uint8_t kTypeColouredLine = 1;
@@ -29,3 +30,11 @@ struct KindLayout {
 };
 
 KindLayout LayoutOf(uint8_t type);
+
+// The bytes one corner takes in a stream: its node, then its x and y map values where the kind
+// has them. The reader and writer move the corners of an entry as one block of these.
+inline size_t BytesPerCorner(const KindLayout& layout) {
+    return 1 + size_t{layout.hasXMap} + size_t{layout.hasYMap};
+}
+// The most bytes the corners of one entry take: 255 corners of a node and two map values.
+constexpr size_t kMaxCornerBytes = 255 * 3;

@@ -1,19 +1,13 @@
 #include "moxinput.h"
 
-#include <cstddef>
+#include <algorithm>
+#include <cstring>
 #include <limits>
 
 namespace {
 // Where a negative position puts the reader: far beyond any buffer, with room to step back.
 constexpr int64_t kNowhere = std::numeric_limits<int64_t>::max() / 2;
 } // namespace
-
-uint8_t MoxInput::ReadByte() {
-    const int64_t at = position_++;
-    if (closed_ || at < 0 || at >= static_cast<int64_t>(bytes_.size()))
-        return 0;
-    return bytes_[static_cast<size_t>(at)];
-}
 
 int16_t MoxInput::ReadInt16() {
     const uint16_t low = ReadByte();
@@ -22,10 +16,22 @@ int16_t MoxInput::ReadInt16() {
 }
 
 int32_t MoxInput::ReadInt32() {
-    uint32_t value = 0;
-    for (int shift = 0; shift < 32; shift += 8)
-        value |= static_cast<uint32_t>(ReadByte()) << shift;
-    return static_cast<int32_t>(value);
+    const auto low = static_cast<uint16_t>(ReadInt16());
+    const auto high = static_cast<uint16_t>(ReadInt16());
+    return static_cast<int32_t>(static_cast<uint32_t>(low) | static_cast<uint32_t>(high) << 16);
+}
+
+void MoxInput::ReadBlock(uint8_t* out, size_t count) {
+    const auto at = static_cast<uint64_t>(position_);
+    position_ += static_cast<int64_t>(count);
+    if (at + count <= readable_) {
+        std::memcpy(out, bytes_.data() + at, count);
+        return;
+    }
+    const size_t present = at < readable_ ? static_cast<size_t>(readable_ - at) : 0;
+    if (present > 0)
+        std::memcpy(out, bytes_.data() + at, present);
+    std::memset(out + present, 0, count - present);
 }
 
 void MoxInput::Seek(int64_t position) {

@@ -1,19 +1,22 @@
 #include "moxoutput.h"
 
-void MoxOutput::PutByte(uint8_t value) {
-    if (position_ >= bytes_.size())
-        bytes_.resize(position_ + 1);
-    bytes_[position_++] = value;
+#include <algorithm>
+
+namespace {
+// The room a file starts with; it doubles whenever a write would pass its end.
+constexpr size_t kFirstRoom = 4096;
+} // namespace
+
+ByteCursor MoxOutput::Claim(size_t count) {
+    const size_t after = position_ + count;
+    if (after > room_.size())
+        room_.resize(std::max({after, 2 * room_.size(), kFirstRoom}));
+    ByteCursor cursor(room_.data() + position_);
+    position_ = after;
+    end_ = std::max(end_, after);
+    return cursor;
 }
 
-void MoxOutput::PutInt16(int16_t value) {
-    const auto bits = static_cast<uint16_t>(value);
-    PutByte(static_cast<uint8_t>(bits & 0xFF));
-    PutByte(static_cast<uint8_t>(bits >> 8));
-}
-
-void MoxOutput::PutInt32(int32_t value) {
-    const auto bits = static_cast<uint32_t>(value);
-    for (int shift = 0; shift < 32; shift += 8)
-        PutByte(static_cast<uint8_t>((bits >> shift) & 0xFF));
+std::vector<uint8_t> MoxOutput::Bytes() const {
+    return {room_.begin(), room_.begin() + static_cast<std::ptrdiff_t>(end_)};
 }

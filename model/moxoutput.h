@@ -2,23 +2,29 @@
 // can be moved back, as the offset table is filled in behind the streams.
 #pragma once
 
+#include "bytecursor.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <vector>
 
 class MoxOutput {
 public:
-    void PutByte(uint8_t value);
-    void PutInt16(int16_t value);
-    void PutInt32(int32_t value);
+    void PutInt16(int16_t value) { Claim(2).Int16(value); }
+    // Makes room for the next `count` bytes at the position and moves past them; the cursor
+    // writes them.
+    ByteCursor Claim(size_t count);
 
     size_t Position() const { return position_; }
     // Moves to a 0-based position; the next write overwrites what lies there or extends the file.
     void Seek(size_t position) { position_ = position; }
 
-    const std::vector<uint8_t>& Bytes() const { return bytes_; }
+    // The file as written so far: every byte up to the furthest position written.
+    std::vector<uint8_t> Bytes() const;
 
 private:
-    std::vector<uint8_t> bytes_;
+    // Room for the file, grown ahead of the writes; only the first `end_` bytes are the file.
+    std::vector<uint8_t> room_;
+    size_t end_ = 0;
     size_t position_ = 0;
 };

@@ -7,8 +7,10 @@
 #include "texturepath.h"
 
 #include <algorithm>
+#include <array>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <limits>
 
 namespace {
@@ -21,20 +23,29 @@ size_t SizeFor(int count) {
     return static_cast<size_t>(std::max(count, 0));
 }
 
+// Takes every `stride`-th byte of `block` as the first `count` values of `column`, which keeps one
+// spare value behind them. An entry without corners keeps empty lists, as the blank entries below
+// do: a lone spare value would mean nothing.
+void TakeColumn(const uint8_t* block, size_t stride, size_t count, std::vector<uint8_t>& column) {
+    if (count == 0) {
+        column.clear();
+        return;
+    }
+    column.assign(count + 1, 0);
+    for (size_t k = 0; k < count; ++k)
+        column[k] = block[k * stride];
+}
+
 void ReadCorners(MoxInput& file, Piggyback& entry, const KindLayout& layout) {
     const size_t corners = entry.CRN;
-    entry.NodeList.assign(corners + 1, 0);
+    const size_t stride = BytesPerCorner(layout);
+    std::array<uint8_t, kMaxCornerBytes> block;
+    file.ReadBlock(block.data(), corners * stride);
+    TakeColumn(block.data(), stride, corners, entry.NodeList);
     if (layout.hasXMap)
-        entry.XMap.assign(corners + 1, 0);
+        TakeColumn(block.data() + 1, stride, corners, entry.XMap);
     if (layout.hasYMap)
-        entry.YMap.assign(corners + 1, 0);
-    for (size_t k = 0; k < corners; ++k) {
-        entry.NodeList[k] = file.ReadByte();
-        if (layout.hasXMap)
-            entry.XMap[k] = file.ReadByte();
-        if (layout.hasYMap)
-            entry.YMap[k] = file.ReadByte();
-    }
+        TakeColumn(block.data() + stride - 1, stride, corners, entry.YMap);
 }
 
 void ReadTables(MoxInput& file, FileRecord& record) {
@@ -117,45 +128,76 @@ void AppendBlanks(ElementList& list, int element, int64_t count) {
     list.Count = static_cast<int16_t>(last);
 }
 
+// Reads the stream of element `element` into its list, `read` being room to gather its entries
+// in, so that the list is given its room once. True when the stream ended by itself, with no
+// limit reached: the list then holds all the stream has.
+bool ReadStream(MoxInput& file, FileRecord& record, int element, int64_t& entriesHeld,
+                std::vector<Piggyback>& read) {
+    file.Seek(record.Offsets[element]);
+    read.clear();
+    int64_t blanks = 0;
+    bool whole = false;
+    for (bool ended = false; !ended;) {
+        if (file.RunOut()) {
+            // The list grows with blank entries until one of the limits below stops it.
+            blanks = std::min<int64_t>(kMaxPiggybacks + 1 - static_cast<int64_t>(read.size()),
+                                       kMaxEntriesPerRecord - entriesHeld);
+            entriesHeld += blanks;
+            ShowMessage(kTooManyEntries + std::to_string(element));
+            file.Close();
+            break;
+        }
+        Piggyback& entry = read.emplace_back();
+        READ_ELEMENT_MOX(file, entry);
+        ++entriesHeld;
+        SetNumber(entry, element, static_cast<int>(read.size()) - 1);
+        if (entry.Type == kTypeHardpoint)
+            NoteHardpoint(record, entry);
+        ended = whole = entry.NextByte == kTypeNull;
+        // The byte read as NextByte opens the next entry.
+        file.StepBack();
+        if (static_cast<int>(read.size()) > kMaxPiggybacks || entriesHeld >= kMaxEntriesPerRecord) {
+            ShowMessage(kTooManyEntries + std::to_string(element));
+            file.Close();
+            ended = true;
+            whole = false;
+        }
+    }
+    ElementList& list = record.Elements[element];
+    list.Items.reserve(read.size() + static_cast<size_t>(blanks) + 1);
+    list.Items.assign(std::make_move_iterator(read.begin()), std::make_move_iterator(read.end()));
+    list.Count = static_cast<int16_t>(read.size());
+    AppendBlanks(list, element, blanks);
+    return whole;
+}
+
+// Element `element` starts where the one before it did, whose stream was read whole: reading it
+// again would give the same entries, and note the same hardpoints again, so the entries are copied
+// and only their numbers are their own.
+void CopyPreviousList(FileRecord& record, int element) {
+    ElementList& list = record.Elements[element];
+    list = record.Elements[element - 1];
+    for (int j = 0; j < list.Count; ++j) {
+        list.Items[j].Number = 0;
+        SetNumber(list.Items[j], element, j);
+    }
+}
+
 void ReadElements(MoxInput& file, FileRecord& record) {
     int64_t entriesHeld = 0;
+    std::vector<Piggyback> read;
+    bool previousWhole = false;
     for (int i = 0; i < record.NumElements; ++i) {
-        ElementList& list = record.Elements[i];
         if (file.IsClosed()) {
             // Reading on would give a full list of blank entries, all alike: one stands for them.
-            AppendBlanks(list, i, 1);
+            AppendBlanks(record.Elements[i], i, 1);
             ShowMessage(kTooManyEntries + std::to_string(i));
-            continue;
-        }
-        file.Seek(record.Offsets[i]);
-        bool ended = false;
-        for (int j = 0; !ended; ++j) {
-            if (file.RunOut()) {
-                // The list grows with blank entries until one of the limits below stops it.
-                const int64_t entries =
-                    std::min<int64_t>(kMaxPiggybacks + 1 - j, kMaxEntriesPerRecord - entriesHeld);
-                AppendBlanks(list, i, entries);
-                entriesHeld += entries;
-                ShowMessage(kTooManyEntries + std::to_string(i));
-                file.Close();
-                break;
-            }
-            list.Count = static_cast<int16_t>(j + 1);
-            list.Items.resize(static_cast<size_t>(list.Count) + 1);
-            Piggyback& entry = list.Items[j];
-            READ_ELEMENT_MOX(file, entry);
-            ++entriesHeld;
-            SetNumber(entry, i, j);
-            if (entry.Type == kTypeHardpoint)
-                NoteHardpoint(record, entry);
-            ended = entry.NextByte == kTypeNull;
-            // The byte read as NextByte opens the next entry.
-            file.StepBack();
-            if (list.Count > kMaxPiggybacks || entriesHeld >= kMaxEntriesPerRecord) {
-                ShowMessage(kTooManyEntries + std::to_string(i));
-                file.Close();
-                ended = true;
-            }
+        } else if (previousWhole && record.Offsets[i] == record.Offsets[i - 1] &&
+                   entriesHeld + record.Elements[i - 1].Count < kMaxEntriesPerRecord) {
+            CopyPreviousList(record, i);
+            entriesHeld += record.Elements[i].Count;
+        } else {
+            previousWhole = ReadStream(file, record, i, entriesHeld, read);
         }
     }
 }

@@ -13,93 +13,119 @@ constexpr const char* kSaveError = "Error in Save...";
 // What an element that the record lacks is written as: the stream FF.
 const ElementList kNoEntries;
 
+// Lays the first `count` values of `column` into every `stride`-th byte of `block`. Values the
+// column lacks go out as zeros, so that what is written agrees with the count.
+void PutColumn(const std::vector<uint8_t>& column, size_t count, size_t stride, uint8_t* block) {
+    const size_t held = std::min(count, column.size());
+    for (size_t k = 0; k < held; ++k)
+        block[k * stride] = column[k];
+    for (size_t k = held; k < count; ++k)
+        block[k * stride] = 0;
+}
+
+// The bytes an entry takes in its stream.
+size_t EntrySize(const Piggyback& item, const KindLayout& layout) {
+    const size_t head = item.COD != 0 ? 3 : 1;
+    if (item.Type == kTypeColouredLine)
+        return head + 3;
+    if (item.Type == kTypeHardpoint)
+        return head + 2;
+    return head + 1 + item.CRN * BytesPerCorner(layout) + size_t{layout.hasAtt1} +
+           size_t{layout.hasAtt2};
+}
+
 void WriteEntry(MoxOutput& file, const Piggyback& item, int32_t& n) {
+    const KindLayout layout = LayoutOf(item.Type);
+    const size_t size = EntrySize(item, layout);
+    n += static_cast<int32_t>(size);
+    ByteCursor out = file.Claim(size);
     if (item.COD != 0) {
-        file.PutByte(item.COD);
-        file.PutByte(item.Flag);
-        n += 2;
+        out.Byte(item.COD);
+        out.Byte(item.Flag);
     }
-    file.PutByte(item.Type);
-    ++n;
-    const auto put = [&](uint8_t value) {
-        file.PutByte(value);
-        ++n;
-    };
+    out.Byte(item.Type);
     if (item.Type == kTypeColouredLine) {
-        put(EntryOr(item.NodeList, 0));
-        put(EntryOr(item.NodeList, 1));
-        put(item.Att1);
+        out.Byte(EntryOr(item.NodeList, 0));
+        out.Byte(EntryOr(item.NodeList, 1));
+        out.Byte(item.Att1);
         return;
     }
     if (item.Type == kTypeHardpoint) {
-        put(item.Att1);
-        put(EntryOr(item.NodeList, 0));
+        out.Byte(item.Att1);
+        out.Byte(EntryOr(item.NodeList, 0));
         return;
     }
-    const KindLayout layout = LayoutOf(item.Type);
-    put(item.CRN);
-    for (int k = 0; k < item.CRN; ++k) {
-        put(EntryOr(item.NodeList, k));
-        if (layout.hasXMap)
-            put(EntryOr(item.XMap, k));
-        if (layout.hasYMap)
-            put(EntryOr(item.YMap, k));
-    }
+    out.Byte(item.CRN);
+    // The corners: each one's node, then its map values.
+    const size_t corners = item.CRN;
+    const size_t stride = BytesPerCorner(layout);
+    uint8_t* block = out.Skip(corners * stride);
+    PutColumn(item.NodeList, corners, stride, block);
+    if (layout.hasXMap)
+        PutColumn(item.XMap, corners, stride, block + 1);
+    if (layout.hasYMap)
+        PutColumn(item.YMap, corners, stride, block + stride - 1);
     if (layout.hasAtt1)
-        put(item.Att1);
+        out.Byte(item.Att1);
     if (layout.hasAtt2)
-        put(item.Att2);
+        out.Byte(item.Att2);
 }
 
-void WriteTables(MoxOutput& file, const FileRecord& record) {
-    file.PutInt16(record.Radius);
-    for (const uint8_t c : record.Texture)
-        file.PutByte(c);
-    file.PutInt16(record.NumParts);
-    file.PutInt16(record.NumNodes);
-    file.PutInt16(record.NumElements);
-    for (int p = 0; p < record.NumParts - 1; ++p) {
-        const Part part = EntryOr(record.Parts, p);
-        file.PutByte(part.Code);
-        file.PutByte(part.Num);
-        file.PutInt16(part.Y);
-        file.PutInt16(part.Z);
-        file.PutInt16(part.X);
-    }
-    for (int i = 0; i < record.NumElements; ++i) {
-        const NRMRecord plane = EntryOr(record.NRM, i);
-        file.PutInt16(plane.Y);
-        file.PutInt16(plane.Z);
-        file.PutInt16(plane.X);
-        file.PutInt32(plane.D);
-        file.PutInt16(plane.F);
-    }
-    file.PutByte(record.Root[0]);
-    file.PutByte(record.Root[1]);
-    for (int i = 0; i < record.NumElements; ++i) {
-        const ChildPair children = EntryOr(record.PART, i);
-        file.PutByte(children[0]);
-        file.PutByte(children[1]);
-    }
-    for (int n = 0; n < record.NumNodes; ++n) {
-        const Node node = EntryOr(record.Nodes, n);
-        file.PutInt16(node.Y);
-        file.PutInt16(node.Z);
-        file.PutInt16(node.X);
-        file.PutInt16(node.B);
-    }
-}
-
-// Where the first stream starts: behind the tables and the offsets.
-int64_t FirstStreamStart(const FileRecord& record) {
+// The bytes of the tables in front of the offsets.
+int64_t TableSize(const FileRecord& record) {
     constexpr int64_t kHeaderBytes = 2 + kTextureNameLength + 3 * 2;
     constexpr int64_t kPartBytes = 8;
-    constexpr int64_t kElementBytes = 14 + 2 + 2; // plane, children, offset
+    constexpr int64_t kElementBytes = 12 + 2; // plane, children
     constexpr int64_t kNodeBytes = 8;
     constexpr int64_t kRootBytes = 2;
     return kHeaderBytes + kPartBytes * std::max(record.NumParts - 1, 0) + kRootBytes +
            kElementBytes * std::max<int64_t>(record.NumElements, 0) +
            kNodeBytes * std::max<int64_t>(record.NumNodes, 0);
+}
+
+void WriteTables(MoxOutput& file, const FileRecord& record) {
+    ByteCursor out = file.Claim(static_cast<size_t>(TableSize(record)));
+    out.Int16(record.Radius);
+    for (const uint8_t c : record.Texture)
+        out.Byte(c);
+    out.Int16(record.NumParts);
+    out.Int16(record.NumNodes);
+    out.Int16(record.NumElements);
+    for (int p = 0; p < record.NumParts - 1; ++p) {
+        const Part part = EntryOr(record.Parts, p);
+        out.Byte(part.Code);
+        out.Byte(part.Num);
+        out.Int16(part.Y);
+        out.Int16(part.Z);
+        out.Int16(part.X);
+    }
+    for (int i = 0; i < record.NumElements; ++i) {
+        const NRMRecord plane = EntryOr(record.NRM, i);
+        out.Int16(plane.Y);
+        out.Int16(plane.Z);
+        out.Int16(plane.X);
+        out.Int32(plane.D);
+        out.Int16(plane.F);
+    }
+    out.Byte(record.Root[0]);
+    out.Byte(record.Root[1]);
+    for (int i = 0; i < record.NumElements; ++i) {
+        const ChildPair children = EntryOr(record.PART, i);
+        out.Byte(children[0]);
+        out.Byte(children[1]);
+    }
+    for (int n = 0; n < record.NumNodes; ++n) {
+        const Node node = EntryOr(record.Nodes, n);
+        out.Int16(node.Y);
+        out.Int16(node.Z);
+        out.Int16(node.X);
+        out.Int16(node.B);
+    }
+}
+
+// Where the first stream starts: behind the tables and the offsets.
+int64_t FirstStreamStart(const FileRecord& record) {
+    return TableSize(record) + 2 * std::max<int64_t>(record.NumElements, 0);
 }
 
 std::string StreamsTooFar(int element) {

@@ -78,7 +78,7 @@ TEST(MoxReader, ReadsTheTablesAndEveryKindAndNumbersTheEntries) {
                                    "102 0,0, t3 c3 n1,2,8,0, x y a9,0,",
                                    "103 0,0, t4 c2 n1,2,0, x11,12,0, y a0,0,",
                                    "104 0,0, t6 c1 n1,0, x2,0, y3,0, a4,5,",
-                                   "105 0,0, t0 c0 n0, x0, y0, a6,7,",
+                                   "105 0,0, t0 c0 n x y a6,7,",
                                    "106 200,9, t150 c1 n7,0, x8,0, y9,0, a1,2,",
                                }));
     EXPECT_EQ(record.Elements[0].Items[0].NextByte, 255);
@@ -201,6 +201,14 @@ TEST(MoxReader, AHostileFileHoldsABoundedNumberOfEntries) {
     EXPECT_LE(entries, static_cast<size_t>(kMaxEntriesPerRecord) + 0x7F7Fu);
     EXPECT_EQ(record.Elements[300].Items[0].Number, 30000);
     EXPECT_EQ(record.Elements[330].Items[0].Number, 0) << "33000 does not fit 16 bits";
+
+    // Elements that share a short stream each hold all its entries, under numbers of their own.
+    builder.streams = {StreamBytes().Line(1, 2, 3).Line(4, 5, 6).End().bytes};
+    const FileRecord many = ReadMoxBytes(builder.Build(), "MANY.MOX", 0);
+    EXPECT_EQ(Numbers({many.Elements[1].Items[1].Number, many.Elements[327].Items[1].Number,
+                       many.Elements[328].Items[0].Number, many.Elements[399].Items[1].Att1,
+                       many.Elements[399].Count}),
+              Numbers({101, 32701, 0, 6, 2}));
 }
 
 TEST(MoxReader, FindsTheTextureInTheModelsFolderWhateverItsCase) {

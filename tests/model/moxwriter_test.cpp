@@ -96,6 +96,12 @@ TEST(MoxWriter, StreamsMustStartWithinTheOffsetRange) {
     EXPECT_EQ(ReadFileBytes(target).size(), static_cast<size_t>(kMaxStreamOffset) + 2);
     EXPECT_TRUE(host.messages.empty());
 
+    // Tables that end just below the limit leave room for the first stream.
+    MoxBuilder tables;
+    tables.nodes.resize(4084);
+    tables.streams.assign(4, StreamBytes().End().bytes);
+    EXPECT_EQ(ReadBack(SavedBytes(ReadBack(tables.Build()))).Offsets[0], 32760);
+
     const std::vector<uint8_t> before = ReadFileBytes(target);
     record.Elements[0].Items[0].CRN += 1;
     record.Elements[0].Items[0].NodeList.push_back(0);
