@@ -44,8 +44,8 @@ public:
     virtual void SetSpinMaximum([[maybe_unused]] const std::string& name,
                                 [[maybe_unused]] int maximum) {}
     // Hands a piggyback picked in the view to the Elements panel: its spins upd_3_elem and
-    // upd_3_pb take the element and the list position of `number`, and their change handlers
-    // select it and fill the panel. The picker has set m_currelem already.
+    // upd_3_pb take the element and the list position of `number`, and the panel selects it and
+    // fills once. The picker has set m_currelem already.
     virtual void ShowPickedPiggyback([[maybe_unused]] int16_t number) {}
     // Runs mnu_v_persp_Click: the perspective view with its start camera.
     virtual void ShowPerspectiveView() {}

@@ -22,6 +22,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QSpinBox>
 
 #include <limits>
@@ -81,16 +82,8 @@ void ElementsPanel::Fill() {
 
 void ElementsPanel::TakePick(int16_t number) {
     const PiggybackRef picked = SplitNumber(number);
-    const int16_t shownBefore = ShownNumber();
-    MainForm::wait = true;
     c_.upd_3_pb->spin().setMaximum(kPickPositionMax);
-    c_.upd_3_elem->spin().setValue(picked.element);
-    MainForm::wait = false;
-    c_.upd_3_pb->spin().setValue(picked.position);
-    // Spins that already showed the pick raise nothing; the panel is filled all the same, so
-    // that a pick after a load or after a pick on empty space shows what was picked.
-    if (ShownNumber() == shownBefore)
-        RefillPanel();
+    Select(picked.element, picked.position);
 }
 
 int16_t ElementsPanel::ShownNumber() const {
@@ -103,11 +96,21 @@ void ElementsPanel::SelectShown() {
     RefillPanel();
 }
 
+// Both spins move with their change handlers held back, so that one choice fills the panel once:
+// the element spin's handler would otherwise fill for piggyback 0 and again for the position.
+void ElementsPanel::Select(int element, int position) {
+    {
+        const QSignalBlocker quietElement(c_.upd_3_elem);
+        const QSignalBlocker quietPosition(c_.upd_3_pb);
+        c_.upd_3_elem->spin().setValue(element);
+        c_.upd_3_pb->spin().setValue(position);
+    }
+    SelectShown();
+}
+
 void ElementsPanel::BindSelection() {
-    connect(c_.upd_3_elem, &SpinWithBuddy::Changed, this, [this] {
-        c_.upd_3_pb->spin().setValue(0);
-        SelectShown();
-    });
+    connect(c_.upd_3_elem, &SpinWithBuddy::Changed, this,
+            [this] { Select(c_.upd_3_elem->spin().value(), 0); });
     connect(c_.upd_3_pb, &SpinWithBuddy::Changed, this, [this] { SelectShown(); });
     connect(&c_.upd_3_elem->buddy(), &EnterField::Committed, this, [this] { txt_3_elem_Commit(); });
 }
@@ -122,9 +125,7 @@ void ElementsPanel::txt_3_elem_Commit() {
     const std::optional<int64_t> element = WholeNumber(field.text().toStdString());
     if (!element)
         return;
-    c_.upd_3_elem->spin().setValue(static_cast<int>(*element));
-    c_.upd_3_pb->spin().setValue(0);
-    SelectShown();
+    Select(static_cast<int>(*element), 0);
 }
 
 void ElementsPanel::BindFields() {

@@ -23,7 +23,7 @@ public:
     // The fill of tab 3 from the open model.
     void Fill();
     // Hands a piggyback picked in the view to the panel: its element and list position go to
-    // upd_3_elem and upd_3_pb, whose change handlers select it and refill the panel.
+    // upd_3_elem and upd_3_pb, and the panel selects it and fills once.
     void TakePick(int16_t number);
 
     const ElementsControls& Controls() const { return c_; }
@@ -45,6 +45,8 @@ private:
     int16_t ShownNumber() const;
     // Selects the piggyback the spins show and refills the panel.
     void SelectShown();
+    // Shows `element` and list `position` in upd_3_elem and upd_3_pb, then selects and fills once.
+    void Select(int element, int position);
     void txt_3_elem_Commit();
     void chk_3_select_Click();
     void chk_3_lock_Click();

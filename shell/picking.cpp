@@ -1,7 +1,6 @@
 #include "picking.h"
 
 #include "currentmodel.h"
-#include "formchecks.h"
 #include "mainwindow.h"
 #include "modelhost.h"
 #include "oglgraphics.h"
@@ -20,7 +19,6 @@ constexpr int kAxisSelectionWords = 32;
 constexpr int kNodeBox = 4;
 constexpr int kElementBox = 2;
 constexpr int kAxisBox = 6;
-constexpr int kLastPiggyback = 255;
 
 const FileRecord* CurrentFile(const model& current) {
     if (current.m_currmox < 0 || static_cast<size_t>(current.m_currmox) >= current.Files.size())
@@ -42,16 +40,9 @@ void SelectNode(model& current, uint32_t name) {
     Host().SetSpinValue("upd_4_node", static_cast<int>(name));
 }
 
-// The element spin is set while the panel's handlers hold still; the piggyback spin then lets
-// them fill the Elements panel once, for the element and piggyback together.
 void SelectElement(model& current, uint32_t name) {
     current.m_currelem = static_cast<int16_t>(name);
-    const PiggybackRef piggyback = SplitNumber(current.m_currelem);
-    MainForm::wait = true;
-    Host().SetSpinMaximum("upd_3_pb", kLastPiggyback);
-    Host().SetSpinValue("upd_3_elem", piggyback.element);
-    MainForm::wait = false;
-    Host().SetSpinValue("upd_3_pb", piggyback.position);
+    Host().ShowPickedPiggyback(current.m_currelem);
 }
 
 void TakePick(model& current, const SelectionHits& pick) {

@@ -100,8 +100,10 @@ TEST_F(ElementsPanelTest, EachKindShowsItsRowsColumnsAndCaptions) {
           "add delpb"}},
     };
     const std::vector<uint8_t> before = SavedBytes(CurrentModel().Files[0]);
-    // Values the lists cannot show end the fill with one message for each showing.
+    // Values the lists cannot show end the fill with one message for each pick, also when the
+    // pick moves both the element and the piggyback.
     for (const int16_t number : {600, 700}) {
+        Pick(301);
         host.calls.clear();
         Pick(number);
         const std::string shown =
