@@ -153,7 +153,7 @@ bool BuildMoxBytes(const FileRecord& record, std::vector<uint8_t>& bytes, std::s
         stream += static_cast<size_t>(SAVE_ELEMENT_MOX(file, list));
         table += 2;
     }
-    bytes = file.Bytes();
+    bytes = file.Take();
     return true;
 }
 
