@@ -17,6 +17,11 @@ ByteCursor MoxOutput::Claim(size_t count) {
     return cursor;
 }
 
-std::vector<uint8_t> MoxOutput::Bytes() const {
-    return {room_.begin(), room_.begin() + static_cast<std::ptrdiff_t>(end_)};
+std::vector<uint8_t> MoxOutput::Take() {
+    std::vector<uint8_t> bytes;
+    bytes.swap(room_);
+    bytes.resize(end_);
+    end_ = 0;
+    position_ = 0;
+    return bytes;
 }

@@ -19,8 +19,9 @@ public:
     // Moves to a 0-based position; the next write overwrites what lies there or extends the file.
     void Seek(size_t position) { position_ = position; }
 
-    // The file as written so far: every byte up to the furthest position written.
-    std::vector<uint8_t> Bytes() const;
+    // Hands over the file as written: every byte up to the furthest position written. The output
+    // is left empty.
+    std::vector<uint8_t> Take();
 
 private:
     // Room for the file, grown ahead of the writes; only the first `end_` bytes are the file.

@@ -1,5 +1,6 @@
 #include "moxreader.h"
 
+#include "cornerblock.h"
 #include "elementkind.h"
 #include "modelhost.h"
 #include "programstate.h"
@@ -23,29 +24,18 @@ size_t SizeFor(int count) {
     return static_cast<size_t>(std::max(count, 0));
 }
 
-// Takes every `stride`-th byte of `block` as the first `count` values of `column`, which keeps one
-// spare value behind them. An entry without corners keeps empty lists, as the blank entries below
-// do: a lone spare value would mean nothing.
-void TakeColumn(const uint8_t* block, size_t stride, size_t count, std::vector<uint8_t>& column) {
-    if (count == 0) {
-        column.clear();
-        return;
-    }
-    column.assign(count + 1, 0);
-    for (size_t k = 0; k < count; ++k)
-        column[k] = block[k * stride];
-}
-
+// An entry without corners keeps empty lists, as the blank entries below do: a lone spare value
+// would mean nothing.
 void ReadCorners(MoxInput& file, Piggyback& entry, const KindLayout& layout) {
     const size_t corners = entry.CRN;
-    const size_t stride = BytesPerCorner(layout);
+    entry.NodeList.clear();
+    entry.XMap.clear();
+    entry.YMap.clear();
+    if (corners == 0)
+        return;
     std::array<uint8_t, kMaxCornerBytes> block;
-    file.ReadBlock(block.data(), corners * stride);
-    TakeColumn(block.data(), stride, corners, entry.NodeList);
-    if (layout.hasXMap)
-        TakeColumn(block.data() + 1, stride, corners, entry.XMap);
-    if (layout.hasYMap)
-        TakeColumn(block.data() + stride - 1, stride, corners, entry.YMap);
+    file.ReadBlock(block.data(), corners * BytesPerCorner(layout));
+    SplitCorners(block.data(), corners, layout, entry);
 }
 
 void ReadTables(MoxInput& file, FileRecord& record) {

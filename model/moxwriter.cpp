@@ -1,6 +1,7 @@
 #include "moxwriter.h"
 
 #include "arrayentry.h"
+#include "cornerblock.h"
 #include "elementkind.h"
 #include "filereplace.h"
 #include "modelhost.h"
@@ -12,16 +13,6 @@ namespace {
 constexpr const char* kSaveError = "Error in Save...";
 // What an element that the record lacks is written as: the stream FF.
 const ElementList kNoEntries;
-
-// Lays the first `count` values of `column` into every `stride`-th byte of `block`. Values the
-// column lacks go out as zeros, so that what is written agrees with the count.
-void PutColumn(const std::vector<uint8_t>& column, size_t count, size_t stride, uint8_t* block) {
-    const size_t held = std::min(count, column.size());
-    for (size_t k = 0; k < held; ++k)
-        block[k * stride] = column[k];
-    for (size_t k = held; k < count; ++k)
-        block[k * stride] = 0;
-}
 
 // The bytes an entry takes in its stream.
 size_t EntrySize(const Piggyback& item, const KindLayout& layout) {
@@ -56,15 +47,7 @@ void WriteEntry(MoxOutput& file, const Piggyback& item, int32_t& n) {
         return;
     }
     out.Byte(item.CRN);
-    // The corners: each one's node, then its map values.
-    const size_t corners = item.CRN;
-    const size_t stride = BytesPerCorner(layout);
-    uint8_t* block = out.Skip(corners * stride);
-    PutColumn(item.NodeList, corners, stride, block);
-    if (layout.hasXMap)
-        PutColumn(item.XMap, corners, stride, block + 1);
-    if (layout.hasYMap)
-        PutColumn(item.YMap, corners, stride, block + stride - 1);
+    JoinCorners(item, item.CRN, layout, out.Skip(item.CRN * BytesPerCorner(layout)));
     if (layout.hasAtt1)
         out.Byte(item.Att1);
     if (layout.hasAtt2)
@@ -170,7 +153,7 @@ bool BuildMoxBytes(const FileRecord& record, std::vector<uint8_t>& bytes, std::s
         stream += static_cast<size_t>(SAVE_ELEMENT_MOX(file, list));
         table += 2;
     }
-    bytes = file.Bytes();
+    bytes = file.Take();
     return true;
 }
 

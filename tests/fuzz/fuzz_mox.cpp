@@ -6,20 +6,29 @@
 #include <cstdlib>
 
 namespace {
-// Header positions of the part, node and element counts.
-constexpr size_t kCountsAt = 16;
-constexpr size_t kCountsEnd = 22;
+// A header count: where it lies, and how many of its low bits it keeps as a signed number.
+struct FoldedCount {
+    size_t at;
+    int bits;
+};
 
-// Each count becomes the 10-bit signed number of its low bits, -512 to 511. What the reader and
-// writer do with a count turns on its sign, on whether its tables fit the file and its streams
-// start below 32 kB, and on whether entry numbers (element * 100 + position) fit 16 bits, and this
-// range crosses all of those; larger counts only repeat the same work per element, so that a run
-// would try a few thousand inputs instead of tens of thousands. The model tests read the largest
+// What the reader and writer do with a count turns on its sign and on whether its tables fit the
+// file; with elements, also on whether their streams start below 32 kB and whether entry numbers
+// (element * 100 + position) fit 16 bits. Parts and nodes keep 9 bits (-256 to 255): corners name
+// nodes by a byte, so more nodes only lengthen the tables. Elements keep 10 bits (-512 to 511),
+// which crosses element 328. Larger counts only repeat the same work per element, so that a run
+// would try a few thousand inputs instead of tens of thousands; the model tests read the largest
 // counts.
+constexpr FoldedCount kCounts[] = {{16, 9}, {18, 9}, {20, 10}};
+
 void FoldCounts(std::vector<uint8_t>& bytes) {
-    for (size_t at = kCountsAt; at + 1 < kCountsEnd && at + 1 < bytes.size(); at += 2) {
-        const auto high = static_cast<uint8_t>(bytes[at + 1] & 0x03);
-        bytes[at + 1] = (high & 0x02) ? static_cast<uint8_t>(high | 0xFC) : high;
+    for (const FoldedCount& count : kCounts) {
+        if (count.at + 1 >= bytes.size())
+            return;
+        const auto keep = static_cast<uint8_t>((1u << (count.bits - 8)) - 1);
+        const auto sign = static_cast<uint8_t>(1u << (count.bits - 9));
+        const auto high = static_cast<uint8_t>(bytes[count.at + 1] & keep);
+        bytes[count.at + 1] = (high & sign) ? static_cast<uint8_t>(high | ~keep) : high;
     }
 }
 } // namespace
