@@ -1,6 +1,5 @@
 #include "moxinput.h"
 
-#include <algorithm>
 #include <cstring>
 #include <limits>
 
