@@ -6,29 +6,22 @@
 #include <cstdlib>
 
 namespace {
-// A header count: where it lies, and how many of its low bits it keeps as a signed number.
-struct FoldedCount {
-    size_t at;
-    int bits;
-};
+// Where the header's three counts lie: parts, nodes and elements.
+constexpr size_t kCountsAt[] = {16, 18, 20};
 
 // What the reader and writer do with a count turns on its sign and on whether its tables fit the
-// file; with elements, also on whether their streams start below 32 kB and whether entry numbers
-// (element * 100 + position) fit 16 bits. Parts and nodes keep 9 bits (-256 to 255): corners name
-// nodes by a byte, so more nodes only lengthen the tables. Elements keep 10 bits (-512 to 511),
-// which crosses element 328. Larger counts only repeat the same work per element, so that a run
-// would try a few thousand inputs instead of tens of thousands; the model tests read the largest
-// counts.
-constexpr FoldedCount kCounts[] = {{16, 9}, {18, 9}, {20, 10}};
-
+// file; with elements, also on whether their streams start below 32 kB. Each count keeps its low
+// 9 bits as a signed number (-256 to 255). Corners name nodes by a byte and the tree names
+// elements by a byte, so larger counts only lengthen the tables and repeat the same work per
+// element: every element gets a list of its own, made, written, read back and written again, and
+// an input counting 500 elements cost twice one counting 255. The model tests read the largest
+// counts, and the entry numbers past element 327 that no longer fit 16 bits.
 void FoldCounts(std::vector<uint8_t>& bytes) {
-    for (const FoldedCount& count : kCounts) {
-        if (count.at + 1 >= bytes.size())
+    for (const size_t at : kCountsAt) {
+        if (at + 1 >= bytes.size())
             return;
-        const auto keep = static_cast<uint8_t>((1u << (count.bits - 8)) - 1);
-        const auto sign = static_cast<uint8_t>(1u << (count.bits - 9));
-        const auto high = static_cast<uint8_t>(bytes[count.at + 1] & keep);
-        bytes[count.at + 1] = (high & sign) ? static_cast<uint8_t>(high | ~keep) : high;
+        // The lowest bit of the high byte is the sign of the 9-bit count.
+        bytes[at + 1] = (bytes[at + 1] & 1) != 0 ? 0xFF : 0x00;
     }
 }
 } // namespace
