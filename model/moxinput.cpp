@@ -1,5 +1,6 @@
 #include "moxinput.h"
 
+#include <algorithm>
 #include <cstring>
 #include <limits>
 
@@ -23,11 +24,8 @@ int32_t MoxInput::ReadInt32() {
 void MoxInput::ReadBlock(uint8_t* out, size_t count) {
     const auto at = static_cast<uint64_t>(position_);
     position_ += static_cast<int64_t>(count);
-    if (at + count <= readable_) {
-        std::memcpy(out, bytes_.data() + at, count);
-        return;
-    }
-    const size_t present = at < readable_ ? static_cast<size_t>(readable_ - at) : 0;
+    const size_t present =
+        at < readable_ ? static_cast<size_t>(std::min<uint64_t>(count, readable_ - at)) : 0;
     if (present > 0)
         std::memcpy(out, bytes_.data() + at, present);
     std::memset(out + present, 0, count - present);

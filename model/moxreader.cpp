@@ -118,6 +118,13 @@ void AppendBlanks(ElementList& list, int element, int64_t count) {
     list.Count = static_cast<int16_t>(last);
 }
 
+// The stream of `element` ran past the file or a limit: the user is told, and nothing more of the
+// file is read.
+void CutOff(MoxInput& file, int element) {
+    ShowMessage(kTooManyEntries + std::to_string(element));
+    file.Close();
+}
+
 // Reads the stream of element `element` into its list, `read` being room to gather its entries
 // in, so that the list is given its room once. True when the stream ended by itself, with no
 // limit reached: the list then holds all the stream has.
@@ -133,8 +140,7 @@ bool ReadStream(MoxInput& file, FileRecord& record, int element, int64_t& entrie
             blanks = std::min<int64_t>(kMaxPiggybacks + 1 - static_cast<int64_t>(read.size()),
                                        kMaxEntriesPerRecord - entriesHeld);
             entriesHeld += blanks;
-            ShowMessage(kTooManyEntries + std::to_string(element));
-            file.Close();
+            CutOff(file, element);
             break;
         }
         Piggyback& entry = read.emplace_back();
@@ -147,8 +153,7 @@ bool ReadStream(MoxInput& file, FileRecord& record, int element, int64_t& entrie
         // The byte read as NextByte opens the next entry.
         file.StepBack();
         if (static_cast<int>(read.size()) > kMaxPiggybacks || entriesHeld >= kMaxEntriesPerRecord) {
-            ShowMessage(kTooManyEntries + std::to_string(element));
-            file.Close();
+            CutOff(file, element);
             ended = true;
             whole = false;
         }
